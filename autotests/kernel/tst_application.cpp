@@ -1,0 +1,358 @@
+// The application object in a running process: what its construction sets up, the reactions to
+// components (banner, partner override, links slot), the splash until the start, the log of what
+// the user pressed.
+
+#include "App/Application/Application.h"
+#include "App/Application/ISplash.h"
+#include "App/Application/LifetimeManager.h"
+#include "App/Application/VersionLines.h"
+#include "Interfaces/ICustomizationManager.h"
+#include "Interfaces/IGateway.h"
+#include "Interfaces/ILaunchTypeProcessor.h"
+#include "Interfaces/ILinksManager.h"
+#include "Interfaces/IProductSettingsManager.h"
+#include "Interfaces/LifetimeObserver.h"
+
+#include "LogCapture.h"
+#include "TestEnvironment.h"
+
+#include <QAction>
+#include <QPushButton>
+#include <QShortcutEvent>
+
+#include <map>
+
+using namespace Ostrel;
+using namespace Ostrel::App;
+
+namespace {
+
+class FakeCustomization : public ICustomizationManager
+{
+public:
+    std::string GetApplicationName() const override { return "Probe Capture"; }
+    std::string GetVersion() const override { return "2.5.1.0"; }
+    std::string GetOrganizationName() const override { return "Probe Org"; }
+    std::string GetPartnerName() const override { return "builtin-partner"; }
+    std::string GetModuleName() const override { return "capture"; }
+    std::string GetBrand() const override { return "probe"; }
+    bool IsEmailCollectionEnabled() const override { return false; }
+    std::string GetPageType() const override { return {}; }
+    std::pair<std::string, std::string> GetUserAgent() const override { return {"Probe/1", "Mozilla/5.0 Probe/1"}; }
+    std::string GetPresentableName() const override { return "Probe Capture"; }
+    std::string GetInternalId() const override { return "probe"; }
+};
+
+// The product settings in memory: what the reactions read and write is all that matters here.
+class MemorySettings : public IProductSettingsManager
+{
+public:
+    std::map<std::string, std::string> values;
+
+    void SetString(const std::string& key, const std::string& value) override { values[key] = value; }
+    bool GetBool(const std::string& key, bool def) const override { return Has(key) ? values.at(key) == "true" : def; }
+    std::string GetString(const std::string& key, const std::string& def) const override
+    {
+        return Has(key) ? values.at(key) : def;
+    }
+    unsigned GetUInt(const std::string& key, unsigned def) const override
+    {
+        return Has(key) ? static_cast<unsigned>(std::stoul(values.at(key))) : def;
+    }
+    bool Has(const std::string& key) const override { return values.count(key) != 0; }
+    void Remove(const std::string& key) override { values.erase(key); }
+    void SetBool(const std::string& key, bool value) override { values[key] = value ? "true" : "false"; }
+    void SetUInt(const std::string& key, unsigned value) override { values[key] = std::to_string(value); }
+    int GetInt(const std::string& key, int def) const override { return Has(key) ? std::stoi(values.at(key)) : def; }
+    void SetInt(const std::string& key, int value) override { values[key] = std::to_string(value); }
+    void RemoveGroup(const std::string&) override {}
+    std::vector<std::string> ChildKeys(const std::string&) const override { return {}; }
+    std::vector<std::string> ChildGroups(const std::string&) const override { return {}; }
+};
+
+class FixedLaunchType : public ILaunchTypeProcessor
+{
+public:
+    explicit FixedLaunchType(int type)
+        : m_type(type)
+    {
+    }
+    int GetLaunchType() const override { return m_type; }
+
+private:
+    int m_type;
+};
+
+class CountingSplash : public ISplash
+{
+public:
+    void show() override {}
+    void dismiss() override { ++dismissals; }
+    int dismissals = 0;
+};
+
+class NoQuitLifetime : public LifetimeManager
+{
+protected:
+    void quitImpl() override {}
+};
+
+class Links : public ILinksManager
+{
+};
+
+class SetterListener : public Core::ComponentSetterObserver
+{
+public:
+    void onSet() override { ++calls; }
+    int calls = 0;
+};
+
+Application& app()
+{
+    return *static_cast<Application*>(QCoreApplication::instance());
+}
+
+} // namespace
+
+class ApplicationTest : public QObject
+{
+    Q_OBJECT
+public:
+    explicit ApplicationTest(std::shared_ptr<ILifetimeManager> lifetime)
+        : m_lifetime(std::move(lifetime))
+    {
+    }
+
+private Q_SLOTS:
+    void constructionSetsTheKernelComponents()
+    {
+        QCOMPARE(QString::fromLatin1(app().metaObject()->className()), QStringLiteral("Ostrel::App::Application"));
+        QCOMPARE(app().get<ILifetimeManager>(), m_lifetime);
+        QVERIFY(!QApplication::isEffectEnabled(Qt::UI_AnimateCombo));
+
+        const auto gateway = app().GetExternalStimulusGateway();
+        QVERIFY(gateway);
+        bool ran = false;
+        gateway->post({"probe", [&]() { ran = true; }});
+        gateway->post({"empty", nullptr});
+        QVERIFY(ran);
+        QVERIFY(!gateway->isHolding());
+    }
+
+    // Must run before the start: the splash lives only until then.
+    void splashIsDismissedWhenTheApplicationFirstBecomesActive()
+    {
+        auto splash = std::make_shared<CountingSplash>();
+        app().SetSplash(splash);
+        QCOMPARE(app().GetSplash(), std::shared_ptr<ISplash>(splash));
+
+        QWidget window;
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTRY_COMPARE(splash->dismissals, 1);
+        m_splash = splash;
+    }
+
+    void bannerIsLoggedInOrderEachTimeTheCustomizationChanges()
+    {
+        Test::LogCapture capture;
+        const auto customization = std::make_shared<FakeCustomization>();
+        app().SetCustomizationManager(customization);
+
+        QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("Probe Capture"));
+        QCOMPARE(QCoreApplication::organizationName(), QStringLiteral("Probe Org"));
+        const auto lines = capture.texts();
+        QVERIFY2(lines.size() >= 5, std::to_string(lines.size()).c_str());
+        QCOMPARE(QString::fromStdString(lines[0]),
+                 QStringLiteral("Application started from ") + QCoreApplication::applicationFilePath());
+        QCOMPARE(QString::fromStdString(lines[1]),
+                 QStringLiteral("Product Version: ") + QCoreApplication::applicationVersion());
+        QCOMPARE(lines[2], std::string("FFmpeg version: ffmpeg/7.1.1-3@ostrel/stable"));
+        QCOMPARE(lines[3], std::string("Build commit: 29116c6"));
+        QVERIFY2(lines[4].find('\n') != std::string::npos, lines[4].c_str()); // the hardware lines
+
+        capture.clear();
+        app().SetCustomizationManager(customization); // the same object: no reaction
+        QVERIFY(capture.texts().empty());
+
+        FLAGS_v = 2;
+        app().SetCustomizationManager(std::make_shared<FakeCustomization>());
+        FLAGS_v = 0;
+        QCOMPARE(capture.matching("Verbose logging enabled. Level=2").size(), std::size_t(1));
+
+        capture.clear();
+        FLAGS_minloglevel = google::GLOG_WARNING;
+        app().SetCustomizationManager(std::make_shared<FakeCustomization>());
+        FLAGS_minloglevel = google::GLOG_INFO;
+        QVERIFY(capture.texts().empty());
+    }
+
+    void partnerOverrideIsUsedOnce_data()
+    {
+        QTest::addColumn<int>("launchType");
+        QTest::addColumn<QString>("override"); // "-" for no override key
+        QTest::addColumn<QString>("expectedPartner"); // "-" for untouched
+        QTest::addColumn<bool>("overrideRemains");
+
+        QTest::newRow("no override") << 0 << "-" << "builtin-partner" << false;
+        QTest::newRow("override wins and is consumed") << 1 << "special" << "special" << false;
+        QTest::newRow("empty override is consumed") << 0 << "" << "builtin-partner" << false;
+        QTest::newRow("background launch touches nothing") << 4 << "special" << "-" << true;
+    }
+
+    void partnerOverrideIsUsedOnce()
+    {
+        QFETCH(int, launchType);
+        QFETCH(QString, override);
+        QFETCH(QString, expectedPartner);
+        QFETCH(bool, overrideRemains);
+
+        auto settings = std::make_shared<MemorySettings>();
+        if (override != QLatin1String("-"))
+            settings->values["PartnerName.OVERRIDE"] = override.toStdString();
+        app().set<IProductSettingsManager>(settings);
+        app().SetCustomizationManager(std::make_shared<FakeCustomization>());
+        app().SetLaunchTypeProcessor(std::make_shared<FixedLaunchType>(launchType));
+
+        if (expectedPartner == QLatin1String("-"))
+            QVERIFY(!settings->Has("PartnerName"));
+        else
+            QCOMPARE(QString::fromStdString(settings->GetString("PartnerName", "")), expectedPartner);
+        QCOMPARE(settings->Has("PartnerName.OVERRIDE"), overrideRemains);
+    }
+
+    void launchTypeBeforeItsDependenciesIsReportedNotFatal()
+    {
+        Test::LogCapture capture;
+        auto settings = app().get<IProductSettingsManager>();
+        app().set<IProductSettingsManager>(nullptr);
+        app().SetLaunchTypeProcessor(std::make_shared<FixedLaunchType>(0));
+        QCOMPARE(capture.matching("launch type processor was set before").size(), std::size_t(1));
+        app().set<IProductSettingsManager>(settings);
+    }
+
+    void linksManagerReachesItsSlot()
+    {
+        const auto setter = app().GetLinksManagerSetter();
+        QVERIFY(setter);
+        SetterListener listener;
+        setter->RegisterEventHandler(&listener);
+        auto links = std::make_shared<Links>();
+        app().SetLinksManager(links);
+        QCOMPARE(listener.calls, 1);
+        QVERIFY(setter->IsSet());
+        app().SetLinksManager(nullptr);
+        QVERIFY(!setter->IsSet());
+        setter->UnregisterEventHandler(&listener);
+    }
+
+    void daysPassedSinceTheFirstStart()
+    {
+        auto settings = std::make_shared<MemorySettings>();
+        app().set<IProductSettingsManager>(settings);
+        QCOMPARE(app().GetDaysPassed(), 0);
+        settings->SetUInt("DateOfFirstStart", QDateTime::currentDateTime().addDays(-3).toTime_t());
+        QCOMPARE(app().GetDaysPassed(), 3);
+    }
+
+    void startDismissesAgainAndDropsTheSplashController()
+    {
+        QVERIFY(m_splash);
+        QObject* controller = nullptr;
+        for (QObject* child : app().children()) {
+            if (QByteArray(child->metaObject()->className()) == "Ostrel::App::SplashController")
+                controller = child;
+        }
+        QVERIFY(controller);
+        QSignalSpy destroyed(controller, &QObject::destroyed);
+
+        // An observer registered by the host after construction hears the start after the
+        // shell's own callbacks: the splash is already dismissed and released.
+        struct Late : LifetimeObserver
+        {
+            void onStart() override
+            {
+                splashAtStart = app().GetSplash() != nullptr;
+            }
+            bool splashAtStart = true;
+        } late;
+        m_lifetime->RegisterEventHandler(&late);
+        m_lifetime->start();
+        m_lifetime->UnregisterEventHandler(&late);
+
+        QCOMPARE(m_splash->dismissals, 2);
+        QVERIFY(!late.splashAtStart);
+        QVERIFY(!app().GetSplash());
+        app().SetSplash(std::make_shared<CountingSplash>());
+        QVERIFY(!app().GetSplash());
+        QTRY_COMPARE(destroyed.count(), 1);
+
+        // After the start, becoming active again no longer reaches the splash.
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QTest::qWait(50);
+        QCOMPARE(m_splash->dismissals, 2);
+    }
+
+    void userActionsAreLogged()
+    {
+        QWidget panel;
+        panel.setObjectName(QStringLiteral("toolbarPanel"));
+        auto* button = new QPushButton(QStringLiteral("Capture"), &panel);
+        button->setObjectName(QStringLiteral("captureButton"));
+        auto* plain = new QWidget(&panel);
+        plain->setObjectName(QStringLiteral("plainWidget"));
+        QPushButton orphan;
+        orphan.setObjectName(QStringLiteral("orphanButton"));
+        QAction action(QStringLiteral("Save"), &panel);
+        action.setObjectName(QStringLiteral("saveAction"));
+        action.setShortcut(QKeySequence(QStringLiteral("Ctrl+S")));
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&panel));
+
+        Test::LogCapture capture;
+        QTest::mousePress(button, Qt::LeftButton);
+        QTest::mouseRelease(button, Qt::LeftButton);
+        QTest::mousePress(plain, Qt::RightButton);
+        QTest::mouseRelease(plain, Qt::RightButton);
+        QTest::mousePress(&orphan, Qt::MiddleButton);
+        QMouseEvent actionPress(QEvent::MouseButtonPress, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&action, &actionPress);
+        QShortcutEvent actionShortcut(action.shortcut(), 1);
+        QCoreApplication::sendEvent(&action, &actionShortcut);
+        QShortcutEvent buttonShortcut(QKeySequence(QStringLiteral("Alt+C")), 2);
+        QCoreApplication::sendEvent(button, &buttonShortcut);
+
+        const auto lines = capture.matching("User action: ");
+        const std::vector<std::string> expected{
+            "User action: type=MouseButtonPress, objectName=captureButton, className=QPushButton, "
+            "parentObjectName=toolbarPanel, parentClassName=QWidget, button: LeftButton",
+            "User action: type=MouseButtonPress, objectName=orphanButton, className=QPushButton, "
+            "parentObjectName=, parentClassName=, button: MiddleButton",
+            "User action: type=MouseButtonPress, objectName=saveAction, className=QAction, "
+            "parentObjectName=toolbarPanel, parentClassName=QWidget, button: LeftButton",
+            "User action: type=Shortcut, objectName=saveAction, className=QAction, "
+            "parentObjectName=toolbarPanel, parentClassName=QWidget, shortcut: Ctrl+S",
+        };
+        QCOMPARE(lines, expected);
+    }
+
+private:
+    std::shared_ptr<ILifetimeManager> m_lifetime;
+    std::shared_ptr<CountingSplash> m_splash;
+};
+
+int main(int argc, char** argv)
+{
+    Test::initTestEnvironment(argv[0]);
+    auto lifetime = std::make_shared<NoQuitLifetime>();
+    Application application(argc, argv, lifetime, Application::DISABLE_APP_MUTEX);
+    ApplicationTest test(lifetime);
+    return Test::exec(&test, argc, argv);
+}
+
+#include "tst_application.moc"

@@ -1,0 +1,93 @@
+// What only a separate process can show: the restarted program's command line, an exception that
+// the event guard lets go on, two instances starting side by side.
+
+#include "ProbeRunner.h"
+#include "TestEnvironment.h"
+
+#include <QTemporaryDir>
+
+class ProcessesTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void restartStartsTheProgramWithItsArguments_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("none") << QString() << QStringList();
+        QTest::newRow("plain") << QStringLiteral("--minimized --launch-type=3")
+                               << QStringList{QStringLiteral("--minimized"), QStringLiteral("--launch-type=3")};
+        QTest::newRow("quoted blank") << QStringLiteral("\"a b\" c") << QStringList{QStringLiteral("a b"), QStringLiteral("c")};
+        QTest::newRow("non-ASCII") << QStringLiteral("--name=Grüße") << QStringList{QStringLiteral("--name=Grüße")};
+    }
+
+    void restartStartsTheProgramWithItsArguments()
+    {
+        QFETCH(QString, arguments);
+        QFETCH(QStringList, expected);
+
+        QTemporaryDir dir;
+        const QString recordPath = dir.filePath(QStringLiteral("record.txt"));
+        QProcessEnvironment env = probeEnvironment();
+        env.insert(QStringLiteral("OSTREL_PROBE_RECORD"), recordPath);
+
+        const ProbeResult result = runProbe({QStringLiteral("restart"), arguments}, env);
+        QCOMPARE(result.exitCode, 0);
+        QCOMPARE(result.values.value(QStringLiteral("restarted")), QStringLiteral("1"));
+
+        // The new process runs detached; wait for what it recorded.
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(recordPath).size() > 0 || (expected.isEmpty() && QFile::exists(recordPath)),
+                                 20000);
+        QFile record(recordPath);
+        QVERIFY(record.open(QIODevice::ReadOnly));
+        QStringList got = QString::fromUtf8(record.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QCOMPARE(got, expected);
+    }
+
+    void guardLogsTracksAndRethrowsStandardExceptions()
+    {
+        const ProbeResult result = runProbe({QStringLiteral("guard"), QStringLiteral("std")});
+        QCOMPARE(result.exitStatus, QProcess::NormalExit);
+        QCOMPARE(result.exitCode, 3);
+        QCOMPARE(result.values.value(QStringLiteral("rethrown")), QStringLiteral("slot exploded"));
+
+        const QString& log = result.standardError;
+        const int header = log.indexOf(QLatin1String("Exception has been caught in event processing\n"));
+        QVERIFY2(header >= 0, qPrintable(log));
+        const QString details = log.mid(header);
+        QVERIFY2(details.contains(QLatin1String("\n\tReceiver: ")), qPrintable(details));
+        QVERIFY(details.contains(QLatin1String("Thrower\n\tEvent class: QMetaCallEvent. Event type: QEvent::MetaCall\n")));
+        QVERIFY(details.contains(QLatin1String("\tException details: ")));
+        QVERIFY(details.contains(QLatin1String("slot exploded")));
+
+        QFile crashRecord(result.values.value(QStringLiteral("crashRecord")));
+        QVERIFY2(crashRecord.open(QIODevice::ReadOnly), qPrintable(crashRecord.fileName()));
+        QVERIFY(crashRecord.readAll().contains("slot exploded"));
+    }
+
+    void guardLetsOtherExceptionsPassUnseen()
+    {
+        const ProbeResult result = runProbe({QStringLiteral("guard"), QStringLiteral("other")});
+        QCOMPARE(result.exitCode, 4);
+        QVERIFY(!result.standardError.contains(QLatin1String("Exception has been caught")));
+        QVERIFY(!QFile::exists(result.values.value(QStringLiteral("crashRecord"))));
+    }
+
+    void secondInstanceIsNotRefused()
+    {
+        QProcess first, second;
+        for (QProcess* process : {&first, &second}) {
+            process->setProcessEnvironment(probeEnvironment());
+            process->start(QStringLiteral(KERNEL_PROBE), {QStringLiteral("instance"), QStringLiteral("1500")});
+        }
+        for (QProcess* process : {&first, &second}) {
+            QVERIFY(process->waitForFinished(30000));
+            QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+            QCOMPARE(process->exitCode(), 0);
+            QVERIFY(process->readAllStandardOutput().contains("started=1"));
+        }
+    }
+};
+
+OSTREL_TEST_MAIN(ProcessesTest)
+#include "tst_processes.moc"

@@ -1,0 +1,210 @@
+// The kernel's two hot paths: the event guard that every event passes, and a component fetch.
+//
+//   build/bin/bench_kernel                      all of them
+//   build/bin/bench_kernel --benchmark_filter=Notify
+//
+// BM_NotifyRatio runs the shell's notify and QApplication's own on the same mix of events in
+// alternating batches of one run and reports their ratio ("ratio" counter; 1.00 = no cost).
+
+#include "App/Application/Application.h"
+#include "App/Application/DirectCallGateway.h"
+#include "App/Application/LifetimeManager.h"
+#include "Core/ApplicationSettingsManager.h"
+#include "Core/CustomizationManager.h"
+#include "Core/HardwareInfo.h"
+#include "Core/InstallerSettingsManager.h"
+#include "Core/MailSettingsManager.h"
+#include "Core/ProductSettingsManager.h"
+#include "Core/UserSettingsManager.h"
+#include "Interfaces/IAccountController.h"
+#include "Interfaces/ICustomizationManager.h"
+#include "Interfaces/IGateway.h"
+#include "Interfaces/IHardwareInfo.h"
+#include "Interfaces/IHttpClient.h"
+#include "Interfaces/IIdleManager.h"
+#include "Interfaces/IInstallerSettingsManager.h"
+#include "Interfaces/IInternetConnectionChecker.h"
+#include "Interfaces/ILaunchTypeProcessor.h"
+#include "Interfaces/ILinksManager.h"
+#include "Interfaces/ILookAndFeelManager.h"
+#include "Interfaces/IMailSettingsManager.h"
+#include "Interfaces/IMessageBroker.h"
+#include "Interfaces/INagManager.h"
+#include "Interfaces/IPartnerTracking.h"
+#include "Interfaces/IProductSettingsManager.h"
+#include "Interfaces/IUserSettingsManager.h"
+#include "Ipc/IPCBaseProtocol.h"
+#include "Tracking/GeneralOstrelTracker.h"
+
+#include <benchmark/benchmark.h>
+#include <glog/logging.h>
+
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimerEvent>
+
+#include <chrono>
+
+using namespace Ostrel;
+using namespace Ostrel::App;
+
+namespace {
+
+// A receiver that accepts every event; the cost measured is the dispatch, not the handling.
+class Sink : public QObject
+{
+public:
+    bool event(QEvent*) override { return true; }
+};
+
+// Mostly non-input events, with a press on a button now and then, as in a live application.
+struct EventMix
+{
+    Sink sink;
+    QPushButton button;
+    QEvent update{QEvent::UpdateRequest};
+    QTimerEvent timer{1};
+    QEvent metaCall{QEvent::User};
+    QMouseEvent press{QEvent::MouseButtonPress, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier};
+
+    template <class Dispatch>
+    void run(Dispatch&& dispatch)
+    {
+        for (int i = 0; i < 31; ++i) {
+            dispatch(&sink, &update);
+            dispatch(&sink, &timer);
+            dispatch(&sink, &metaCall);
+        }
+        dispatch(&button, &press);
+    }
+};
+
+Application& app()
+{
+    return *static_cast<Application*>(QCoreApplication::instance());
+}
+
+bool shellNotify(QObject* receiver, QEvent* event)
+{
+    return static_cast<QCoreApplication&>(app()).notify(receiver, event);
+}
+
+bool qtNotify(QObject* receiver, QEvent* event)
+{
+    return app().QApplication::notify(receiver, event);
+}
+
+void BM_NotifyShell(benchmark::State& state)
+{
+    EventMix mix;
+    for (auto _ : state)
+        mix.run(shellNotify);
+    state.SetItemsProcessed(state.iterations() * 94);
+}
+BENCHMARK(BM_NotifyShell);
+
+void BM_NotifyQApplication(benchmark::State& state)
+{
+    EventMix mix;
+    for (auto _ : state)
+        mix.run(qtNotify);
+    state.SetItemsProcessed(state.iterations() * 94);
+}
+BENCHMARK(BM_NotifyQApplication);
+
+void BM_NotifyRatio(benchmark::State& state)
+{
+    using Clock = std::chrono::steady_clock;
+    EventMix mix;
+    Clock::duration shell{}, qt{};
+    for (auto _ : state) {
+        // Alternating batches, so that drift of the machine hits both sides alike.
+        auto t0 = Clock::now();
+        for (int i = 0; i < 50; ++i)
+            mix.run(qtNotify);
+        auto t1 = Clock::now();
+        for (int i = 0; i < 50; ++i)
+            mix.run(shellNotify);
+        auto t2 = Clock::now();
+        qt += t1 - t0;
+        shell += t2 - t1;
+    }
+    state.counters["ratio"] = qt.count() ? double(shell.count()) / double(qt.count()) : 0.0;
+}
+BENCHMARK(BM_NotifyRatio)->Iterations(400);
+
+template <class T>
+struct Dummy : T
+{
+};
+
+struct FixedLaunchType : ILaunchTypeProcessor
+{
+    int GetLaunchType() const override { return Regular; }
+};
+
+// A context holding every one of its components, the settings as real stores in a scratch folder.
+struct FullContext
+{
+    QTemporaryDir folder;
+    ITopManager context;
+
+    FullContext()
+    {
+        const auto path = [this](const char* name) { return folder.filePath(QString::fromLatin1(name)); };
+        context.set<IApplicationSettingsManager>(std::make_shared<ApplicationSettingsManager>(path("a.ini")));
+        context.set<ICustomizationManager>(std::make_shared<CustomizationManager>(path("none.ini")));
+        context.set<IIdleManager>(std::make_shared<Dummy<IIdleManager>>());
+        context.set<IInstallerSettingsManager>(std::make_shared<InstallerSettingsManager>(path("i.ini")));
+        context.set<IInternetConnectionChecker>(std::make_shared<Dummy<IInternetConnectionChecker>>());
+        context.set<ILifetimeManager>(std::make_shared<LifetimeManager>());
+        context.set<ILaunchTypeProcessor>(std::make_shared<FixedLaunchType>());
+        context.set<ILinksManager>(std::make_shared<Dummy<ILinksManager>>());
+        context.set<ILookAndFeelManager>(std::make_shared<Dummy<ILookAndFeelManager>>());
+        context.set<IMailSettingsManager>(std::make_shared<MailSettingsManager>(path("m.ini")));
+        context.set<IPCBaseProtocol>(std::make_shared<IPCBaseProtocol>());
+        context.set<IPartnerTracking>(std::make_shared<Dummy<IPartnerTracking>>());
+        context.set<IProductSettingsManager>(std::make_shared<ProductSettingsManager>(path("p.ini")));
+        context.set<IUserSettingsManager>(std::make_shared<UserSettingsManager>(path("u.ini")));
+        context.set<Web::IAccountController>(std::make_shared<Dummy<Web::IAccountController>>());
+        context.set<IHardwareInfo>(std::make_shared<HardwareInfo>());
+        context.set<NagScreen::IManager>(std::make_shared<Dummy<NagScreen::IManager>>());
+        context.set<WebSocket::IMessageBroker>(std::make_shared<Dummy<WebSocket::IMessageBroker>>());
+        context.set<ExternalStimulus::IGateway>(std::make_shared<ExternalStimulus::DirectCallGateway>());
+        context.set<Networking::IHttpClient>(std::make_shared<Dummy<Networking::IHttpClient>>());
+        context.set<Tracking::GeneralOstrelTracker>(std::make_shared<Tracking::GeneralOstrelTracker>(path("t.jsonl")));
+    }
+};
+
+void BM_ComponentFetchFirst(benchmark::State& state)
+{
+    FullContext full;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(full.context.get<IApplicationSettingsManager>());
+}
+BENCHMARK(BM_ComponentFetchFirst);
+
+void BM_ComponentFetchLast(benchmark::State& state)
+{
+    FullContext full;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(full.context.get<Tracking::GeneralOstrelTracker>());
+}
+BENCHMARK(BM_ComponentFetchLast);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    FLAGS_logtostderr = true;
+    FLAGS_minloglevel = google::GLOG_WARNING; // user action lines are not what is measured
+    google::InitGoogleLogging(argv[0]);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    auto lifetime = std::make_shared<LifetimeManager>();
+    Application application(argc, argv, lifetime, Application::DISABLE_APP_MUTEX);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

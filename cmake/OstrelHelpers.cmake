@@ -1,0 +1,62 @@
+# ostrel_add_library(<name> [HEADER_ONLY] FOLDER <dir under src> SOURCES ... HEADERS ... LIBS ...)
+#
+# One library of the project: shared (hidden visibility, a generated export header
+# <FOLDER>/<name>_export.h with the macro OSTREL_<NAME>_EXPORT) or header-only, with the
+# alias Ostrel::<Name>, and install rules for the Ostrel CMake package. Every target sees
+# headers from src/, so that includes read "Folder/Header.h" everywhere.
+function(ostrel_add_library name)
+    cmake_parse_arguments(ARG "HEADER_ONLY" "FOLDER;ALIAS" "SOURCES;HEADERS;LIBS;PRIVATE_LIBS" ${ARGN})
+    set(target ostrel_${name})
+    if(ARG_HEADER_ONLY)
+        add_library(${target} INTERFACE)
+        target_include_directories(${target} INTERFACE
+            $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
+            $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/ostrel>)
+        target_link_libraries(${target} INTERFACE ${ARG_LIBS})
+        target_compile_features(${target} INTERFACE cxx_std_17)
+    else()
+        add_library(${target} SHARED ${ARG_SOURCES} ${ARG_HEADERS})
+        string(TOUPPER ${name} upper)
+        generate_export_header(${target}
+            BASE_NAME OSTREL_${upper}
+            EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/${ARG_FOLDER}/ostrel_${name}_export.h)
+        target_include_directories(${target} PUBLIC
+            $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
+            $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
+            $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/ostrel>)
+        target_link_libraries(${target} PUBLIC ${ARG_LIBS} PRIVATE ${ARG_PRIVATE_LIBS})
+        set_target_properties(${target} PROPERTIES
+            OUTPUT_NAME Ostrel${ARG_ALIAS}
+            VERSION ${PROJECT_VERSION}
+            SOVERSION ${PROJECT_VERSION_MAJOR})
+        install(FILES ${PROJECT_BINARY_DIR}/include/${ARG_FOLDER}/ostrel_${name}_export.h
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ostrel/${ARG_FOLDER})
+    endif()
+    set_target_properties(${target} PROPERTIES EXPORT_NAME ${ARG_ALIAS})
+    add_library(Ostrel::${ARG_ALIAS} ALIAS ${target})
+    install(TARGETS ${target} EXPORT OstrelTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    foreach(header ${ARG_HEADERS})
+        get_filename_component(dir ${header} DIRECTORY)
+        install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ostrel/${ARG_FOLDER}/${dir})
+    endforeach()
+endfunction()
+
+# ostrel_add_qtest(<ctest name> SOURCES ... [LIBS ...] [ALLOW_QT_WARNINGS] [ENVIRONMENT ...])
+#
+# A QtTest executable registered in CTest. Tests run headless on the offscreen platform and
+# any Qt warning that a test did not expect fails it (OSTREL_QT_WARNINGS_FAIL): a test that means
+# to provoke Qt warnings says ALLOW_QT_WARNINGS.
+function(ostrel_add_qtest name)
+    cmake_parse_arguments(ARG "ALLOW_QT_WARNINGS" "" "SOURCES;LIBS;ENVIRONMENT" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE Ostrel::TestSupport ${ARG_LIBS})
+    target_compile_definitions(${name} PRIVATE QT_FORCE_ASSERTS)
+    add_test(NAME ${name} COMMAND ${name})
+    set(env QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=${OSTREL_TEST_RUNTIME_DIR} ${ARG_ENVIRONMENT})
+    if(NOT ARG_ALLOW_QT_WARNINGS)
+        list(APPEND env OSTREL_QT_WARNINGS_FAIL=1)
+    endif()
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${env}" TIMEOUT 300)
+endfunction()

@@ -1,0 +1,160 @@
+// The sample host: how a product wires the shell. It follows the start sequence step by step;
+// each step says what a product would put there.
+
+#include "HostSplash.h"
+#include "MainWindow.h"
+
+#include "App/Application/Application.h"
+#include "App/Application/LifetimeManager.h"
+#include "App/Application/StartupEnvironment.h"
+#include "Core/ApplicationSettingsManager.h"
+#include "Core/CustomizationManager.h"
+#include "Core/HardwareInfo.h"
+#include "Core/InstallerSettingsManager.h"
+#include "Core/LaunchTypeProcessor.h"
+#include "Core/MailSettingsManager.h"
+#include "Core/ProductSettingsManager.h"
+#include "Core/UserSettingsManager.h"
+#include "Interfaces/LifetimeObserver.h"
+#include "QtUtil/QtMessageRouting.h"
+#include "QtUtil/Utf8.h"
+#include "Tracking/ApplicationTrackerFactory.h"
+#include "Tracking/GeneralOstrelTracker.h"
+
+#include <glog/logging.h>
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace Ostrel;
+using namespace Ostrel::App;
+
+namespace {
+
+// Sends the start and the quit to tracking, like a product's own observers would.
+class TrackingLifetimeObserver : public LifetimeObserver
+{
+public:
+    void onStart() override { send("APP_START"); }
+    void onQuit() override { send("APP_QUIT"); }
+
+private:
+    static void send(const std::string& event)
+    {
+        if (const auto tracker = Tracking::ApplicationTrackerFactory::getApplicationTracker())
+            tracker->sendEvent(event, {{"VERSION", Util::QStringToUtf8(QCoreApplication::applicationVersion())}});
+    }
+};
+
+// glog writes one file, appended across runs, in the product's data folder; warnings and errors
+// also reach standard error. Until this runs, everything goes to standard error.
+QString startLogFile(const CustomizationManager& customization)
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1Char('/') +
+                           QString::fromStdString(customization.GetOrganizationName()) + QLatin1Char('/') +
+                           QString::fromStdString(customization.GetApplicationName()) + QStringLiteral("/logs");
+    if (!QDir().mkpath(folder)) {
+        LOG(WARNING) << "Cannot create the log folder " << Util::QStringToUtf8(folder) << ", logging to standard error";
+        FLAGS_logtostderr = true;
+        return QStringLiteral("<standard error>");
+    }
+    const QString file = folder + QStringLiteral("/ostrel-host.log");
+    FLAGS_logtostderr = false;
+    FLAGS_timestamp_in_logfile_name = false;
+    FLAGS_stderrthreshold = google::GLOG_WARNING;
+    google::SetLogDestination(google::GLOG_INFO, Util::QStringToUtf8(file).c_str());
+    for (const google::LogSeverity severity : {google::GLOG_WARNING, google::GLOG_ERROR, google::GLOG_FATAL})
+        google::SetLogDestination(severity, "");
+    return file;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Standard error until the log file is known, so that nothing lands in glog's default folder.
+    FLAGS_logtostderr = true;
+    google::InitGoogleLogging(argv[0]); // GLOG_v in the environment sets the verbose level
+
+    // 1. Before any Qt object: the DPI policy.
+    HighDpiFix();
+
+    // 2. The lifetime manager, then the application object.
+    const auto lifetime = std::make_shared<LifetimeManager>();
+    Application app(argc, argv, lifetime);
+    Util::InstallQtMessageRouting();
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Sample host of the Ostrel application shell"));
+    parser.addHelpOption();
+    const QCommandLineOption quitAfter(QStringLiteral("quit-after"),
+                                       QStringLiteral("Quit by itself MS milliseconds after the start."),
+                                       QStringLiteral("MS"));
+    parser.addOption(quitAfter);
+    // The shell's own options (test options) are read by the shell; unknown ones are not an error here.
+    parser.parse(QCoreApplication::arguments());
+    if (parser.isSet(QStringLiteral("help"))) {
+        std::fputs(qPrintable(parser.helpText()), stdout);
+        return 0;
+    }
+    int quitAfterMs = -1;
+    if (parser.isSet(quitAfter)) {
+        bool valid = false;
+        quitAfterMs = parser.value(quitAfter).toInt(&valid);
+        if (!valid || quitAfterMs < 0) {
+            std::fprintf(stderr, "ostrel-host: --quit-after takes a number of milliseconds\n");
+            return 2;
+        }
+    }
+
+    // 3. The components: the customization first (it names the application and logs the banner),
+    //    then the settings, and the launch type processor after the settings it reads.
+    const auto customization =
+        std::make_shared<CustomizationManager>(QString(), QStringLiteral(":/host/CaptureDeskCustom.ini"));
+    const QString logFile = startLogFile(*customization);
+
+    const auto splash = std::make_shared<HostSplash>();
+    splash->show();
+    app.SetSplash(splash);
+
+    app.SetCustomizationManager(customization);
+    const auto tracker = std::make_shared<Tracking::GeneralOstrelTracker>();
+    Tracking::ApplicationTrackerFactory::setApplicationTracker(tracker);
+    app.set<Tracking::GeneralOstrelTracker>(tracker);
+
+    const auto productSettings = std::make_shared<ProductSettingsManager>();
+    const auto installerSettings = std::make_shared<InstallerSettingsManager>();
+    app.set<IApplicationSettingsManager>(std::make_shared<ApplicationSettingsManager>());
+    app.set<IProductSettingsManager>(productSettings);
+    app.set<IInstallerSettingsManager>(installerSettings);
+    app.set<IUserSettingsManager>(std::make_shared<UserSettingsManager>());
+    app.set<IMailSettingsManager>(std::make_shared<MailSettingsManager>());
+    app.set<IHardwareInfo>(std::make_shared<HardwareInfo>());
+    app.SetLaunchTypeProcessor(
+        std::make_shared<LaunchTypeProcessor>(productSettings, installerSettings, QCoreApplication::arguments()));
+
+    // 4. Nags and test options join here as the product adds them.
+    TrackingLifetimeObserver trackingObserver;
+    lifetime->RegisterEventHandler(&trackingObserver);
+
+    MainWindow window(app);
+    window.show();
+
+    // 5. The start: observers hear it, the splash goes, the one-shot callbacks run once.
+    lifetime->start();
+    if (quitAfterMs >= 0)
+        QTimer::singleShot(quitAfterMs, &app, [&]() { lifetime->tryToQuit(); });
+
+    // 6. The event loop.
+    const int status = QApplication::exec();
+    lifetime->UnregisterEventHandler(&trackingObserver);
+
+    LOG(INFO) << "Event loop ended with status " << status;
+    std::printf("Log: %s\nTracking: %s\n", qPrintable(QDir::toNativeSeparators(logFile)),
+                qPrintable(QDir::toNativeSeparators(tracker->filePath())));
+    return status;
+}

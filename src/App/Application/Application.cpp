@@ -1,0 +1,292 @@
+#include "App/Application/Application.h"
+
+#include "App/Application/ApplicationImpl.h"
+#include "App/Application/DirectCallGateway.h"
+#include "App/Application/ProductConstants.h"
+#include "App/Application/SplashController.h"
+#include "App/Application/UserActionLog.h"
+#include "App/Application/VersionLines.h"
+#include "Events/NotNull.h"
+#include "Foundation/AppMutexLocker.h"
+#include "Foundation/CrashRecord.h"
+#include "Interfaces/ICustomizationManager.h"
+#include "Interfaces/IGateway.h"
+#include "Interfaces/ILaunchTypeProcessor.h"
+#include "Interfaces/ILifetimeManager.h"
+#include "Interfaces/IProductSettingsManager.h"
+#include "QtUtil/ApplicationVisibleVersion.h"
+#include "QtUtil/HardwareInfoReport.h"
+#include "QtUtil/Utf8.h"
+
+#include <boost/core/demangle.hpp>
+#include <boost/exception/diagnostic_information.hpp>
+
+#include <QDateTime>
+#include <QElapsedTimer>
+#include <QMetaEnum>
+#include <QThread>
+
+#include <glog/logging.h>
+
+#include <typeinfo>
+
+namespace Ostrel::App {
+namespace {
+
+constexpr char ApplicationMutexName[] = "{3C1F7A92-5D08-4E6B-9A14-7E2B60D4C81F}";
+constexpr char InstallerMutexName[] = "{8E40B7D3-12AF-49C5-B6E7-0C93F5A1D726}";
+
+// How long CheckRunnedInstaller waits for the installer to let go of its mutex.
+constexpr qint64 InstallerWaitNanoseconds = 500 * 1000 * 1000;
+
+} // namespace
+
+const Application::DisableAppMutexT Application::DISABLE_APP_MUTEX{};
+
+Application::Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager)
+    : Application(argc, argv, lifetimeManager, false)
+{
+}
+
+Application::Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager,
+                         DisableAppMutexT)
+    : Application(argc, argv, lifetimeManager, true)
+{
+}
+
+Application::Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager,
+                         bool mutexDisabled)
+    : QApplication(argc, argv)
+    , d(std::make_unique<Impl>(*this, lifetimeManager, mutexDisabled))
+{
+    set<ILifetimeManager>(lifetimeManager);
+    set<ExternalStimulus::IGateway>(std::make_shared<ExternalStimulus::DirectCallGateway>());
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+}
+
+// The private part goes first (member before bases), releasing the application mutex; then
+// ITopManager destroys the components and its observers; then QApplication deletes a splash
+// controller that is still its child.
+Application::~Application() = default;
+
+std::shared_ptr<ICustomizationManager> Application::GetCustomizationManager() const
+{
+    return get<ICustomizationManager>();
+}
+
+std::shared_ptr<ExternalStimulus::IGateway> Application::GetExternalStimulusGateway() const
+{
+    return get<ExternalStimulus::IGateway>();
+}
+
+std::shared_ptr<IInstallerSettingsManager> Application::GetInstallerSettingsManager() const
+{
+    return get<IInstallerSettingsManager>();
+}
+
+std::shared_ptr<ILaunchTypeProcessor> Application::GetLaunchTypeProcessor() const
+{
+    return get<ILaunchTypeProcessor>();
+}
+
+std::shared_ptr<ILookAndFeelManager> Application::GetLookAndFeel() const
+{
+    return get<ILookAndFeelManager>();
+}
+
+std::shared_ptr<IMailSettingsManager> Application::GetMailSettingsManager() const
+{
+    return get<IMailSettingsManager>();
+}
+
+std::shared_ptr<NagScreen::IManager> Application::GetNagScreenManager() const
+{
+    return get<NagScreen::IManager>();
+}
+
+std::shared_ptr<IProductSettingsManager> Application::GetProductSettingsManager() const
+{
+    return get<IProductSettingsManager>();
+}
+
+std::shared_ptr<IApplicationSettingsManager> Application::GetSettingsManager() const
+{
+    return get<IApplicationSettingsManager>();
+}
+
+void Application::SetCustomizationManager(const std::shared_ptr<ICustomizationManager>& manager)
+{
+    set<ICustomizationManager>(manager);
+}
+
+void Application::SetExternalStimulusGateway(const std::shared_ptr<ExternalStimulus::IGateway>& gateway)
+{
+    set<ExternalStimulus::IGateway>(gateway);
+}
+
+void Application::SetLaunchTypeProcessor(const std::shared_ptr<ILaunchTypeProcessor>& processor)
+{
+    set<ILaunchTypeProcessor>(processor);
+}
+
+void Application::SetLinksManager(const std::shared_ptr<ILinksManager>& manager)
+{
+    set<ILinksManager>(manager);
+}
+
+void Application::SetLookAndFeel(const std::shared_ptr<ILookAndFeelManager>& manager)
+{
+    set<ILookAndFeelManager>(manager);
+}
+
+void Application::SetNagScreenManager(const std::shared_ptr<NagScreen::IManager>& manager)
+{
+    set<NagScreen::IManager>(manager);
+}
+
+std::shared_ptr<ISplash> Application::GetSplash() const
+{
+    return d->splashController ? d->splashController->splash() : nullptr;
+}
+
+void Application::SetSplash(const std::shared_ptr<ISplash>& splash)
+{
+    if (d->splashController)
+        d->splashController->setSplash(splash);
+}
+
+std::shared_ptr<Application::LinksManagerSetter> Application::GetLinksManagerSetter() const
+{
+    return d->linksManagerSetter;
+}
+
+int Application::GetDaysPassed() const
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    const auto settings = get<IProductSettingsManager>();
+    const uint firstStart = settings ? settings->GetUInt(ProductConstants::DateOfFirstStart, now.toTime_t())
+                                     : now.toTime_t();
+    return static_cast<int>(QDateTime::fromTime_t(firstStart).daysTo(now));
+}
+
+bool Application::CheckRunnedInstaller()
+{
+    Util::AppMutexLocker locker(InstallerMutexName);
+    if (locker.TryLockAppMutex())
+        return false;
+
+    QElapsedTimer timer;
+    timer.start();
+    for (;;) {
+        if (timer.nsecsElapsed() > InstallerWaitNanoseconds)
+            return true;
+        if (locker.TryLockAppMutex())
+            return false;
+        QThread::msleep(1);
+    }
+}
+
+bool Application::notify(QObject* receiver, QEvent* event)
+{
+    try {
+        LogUserAction(receiver, event);
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& exception) {
+        const std::string receiverClass = receiver ? boost::core::demangle(typeid(*receiver).name()) : "<NULL>";
+        const std::string eventClass = boost::core::demangle(typeid(*event).name());
+        const char* typeName = QMetaEnum::fromType<QEvent::Type>().valueToKey(event->type());
+        LOG(ERROR) << "Exception has been caught in event processing\n"
+                   << "\tReceiver: " << receiverClass << "\n"
+                   << "\tEvent class: " << eventClass << ". Event type: QEvent::" << (typeName ? typeName : "")
+                   << "\n"
+                   << "\tException details: " << boost::diagnostic_information(exception, true);
+        Core::TrackCurrentException();
+        throw;
+    }
+}
+
+// ---------------------------------------------------------------------------------------------
+
+Application::Impl::Impl(Application& app, const std::shared_ptr<ILifetimeManager>& lifetimeManager,
+                        bool mutexDisabled)
+    : application(app)
+{
+    // Without a lifetime manager nothing can start; refuse it before anything registers.
+    const Core::NotNull<std::shared_ptr<ILifetimeManager>> lifetime(lifetimeManager);
+
+    if (!mutexDisabled)
+        appMutexLocker = std::make_unique<Util::AppMutexLocker>(ApplicationMutexName);
+    splashController = new SplashController(&application, *lifetime.get(), nullptr);
+    linksManagerSetter = std::make_shared<LinksManagerSetter>();
+    // A second instance is deliberately not refused here: the product decides that elsewhere.
+    if (appMutexLocker)
+        appMutexLocker->TryLockAppMutex();
+    application.RegisterEventHandler(this);
+    lifetime->addOnStartCallback([this]() { onStart(); });
+}
+
+Application::Impl::~Impl()
+{
+    application.UnregisterEventHandler(this);
+}
+
+void Application::Impl::onStart()
+{
+    application.fetchAllComponents();
+    splashController->deleteLater();
+    splashController = nullptr;
+}
+
+void Application::Impl::onComponentChanged(const std::shared_ptr<ICustomizationManager>& manager,
+                                           const std::shared_ptr<ICustomizationManager>&)
+{
+    // Null is stored like any other value, but there is no identity to take from it.
+    if (!manager)
+        return;
+    QCoreApplication::setApplicationName(QString::fromStdString(manager->GetApplicationName()));
+    QCoreApplication::setApplicationVersion(Util::GenerateApplicationVisibleVersion(manager->GetVersion()));
+    QCoreApplication::setOrganizationName(QString::fromStdString(manager->GetOrganizationName()));
+
+    if (FLAGS_minloglevel > google::GLOG_INFO)
+        return;
+    LOG(INFO) << "Application started from " << Util::QStringToUtf8(QCoreApplication::applicationFilePath());
+    LOG(INFO) << "Product Version: " << Util::QStringToUtf8(QCoreApplication::applicationVersion());
+    for (const std::string& line : VersionLines())
+        LOG(INFO) << line;
+    if (FLAGS_v >= 1)
+        LOG(INFO) << "Verbose logging enabled. Level=" << FLAGS_v;
+    LOG(INFO) << Util::QStringToUtf8(Util::GetHardwareInfo(*manager));
+}
+
+void Application::Impl::onComponentChanged(const std::shared_ptr<ILaunchTypeProcessor>& processor,
+                                           const std::shared_ptr<ILaunchTypeProcessor>&)
+{
+    if (!processor || processor->GetLaunchType() == ILaunchTypeProcessor::Background)
+        return;
+
+    const auto settings = application.get<IProductSettingsManager>();
+    const auto customization = application.get<ICustomizationManager>();
+    if (!settings || !customization) {
+        LOG(ERROR) << "The launch type processor was set before the customization manager and the product "
+                      "settings manager; the partner name is left as it was";
+        return;
+    }
+
+    const std::string overrideKey = std::string(ProductConstants::PartnerName) + ProductConstants::OverrideSuffix;
+    std::string partner = customization->GetPartnerName();
+    if (settings->Has(overrideKey)) {
+        const std::string overridden = settings->GetString(overrideKey, std::string());
+        if (!overridden.empty())
+            partner = overridden;
+        settings->Remove(overrideKey);
+    }
+    settings->SetString(ProductConstants::PartnerName, partner);
+}
+
+void Application::Impl::onComponentChanged(const std::shared_ptr<ILinksManager>& manager,
+                                           const std::shared_ptr<ILinksManager>&)
+{
+    linksManagerSetter->set(manager);
+}
+
+} // namespace Ostrel::App

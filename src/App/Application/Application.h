@@ -1,0 +1,84 @@
+#pragma once
+
+#include "App/Application/ITopManager.h"
+#include "App/Application/ostrel_app_export.h"
+#include "Events/ComponentSetter.h"
+
+#include <QApplication>
+
+#include <memory>
+
+namespace Ostrel::App {
+
+class ISplash;
+
+/// The one QApplication of the process, and the application context of the product's services.
+///
+/// The host constructs it first with its lifetime manager, sets the components (the customization
+/// and product settings managers before the launch type processor), then calls the lifetime
+/// manager's start. Every event passes notify(), which logs what the user pressed and reports an
+/// exception escaping from event processing before letting it go on.
+///
+/// Destruction releases the private part first (and with it the application mutex), then the
+/// components in list order, then QApplication.
+class OSTREL_APP_EXPORT Application : public QApplication, public ITopManager
+{
+    Q_OBJECT
+public:
+    struct DisableAppMutexT
+    {
+    };
+    /// Pass it to construct without taking the application mutex (tests, tools).
+    static const DisableAppMutexT DISABLE_APP_MUTEX;
+
+    using LinksManagerSetter = Core::ComponentSetter<ILinksManager, std::shared_ptr<ILinksManager>>;
+
+    /// Takes the application mutex; a second instance is not refused.
+    Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager);
+    Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager,
+                DisableAppMutexT);
+    ~Application() override;
+
+    std::shared_ptr<ICustomizationManager> GetCustomizationManager() const;
+    std::shared_ptr<ExternalStimulus::IGateway> GetExternalStimulusGateway() const;
+    std::shared_ptr<IInstallerSettingsManager> GetInstallerSettingsManager() const;
+    std::shared_ptr<ILaunchTypeProcessor> GetLaunchTypeProcessor() const;
+    std::shared_ptr<ILookAndFeelManager> GetLookAndFeel() const;
+    std::shared_ptr<IMailSettingsManager> GetMailSettingsManager() const;
+    std::shared_ptr<NagScreen::IManager> GetNagScreenManager() const;
+    std::shared_ptr<IProductSettingsManager> GetProductSettingsManager() const;
+    std::shared_ptr<IApplicationSettingsManager> GetSettingsManager() const;
+
+    void SetCustomizationManager(const std::shared_ptr<ICustomizationManager>& manager);
+    void SetExternalStimulusGateway(const std::shared_ptr<ExternalStimulus::IGateway>& gateway);
+    void SetLaunchTypeProcessor(const std::shared_ptr<ILaunchTypeProcessor>& processor);
+    void SetLinksManager(const std::shared_ptr<ILinksManager>& manager);
+    void SetLookAndFeel(const std::shared_ptr<ILookAndFeelManager>& manager);
+    void SetNagScreenManager(const std::shared_ptr<NagScreen::IManager>& manager);
+
+    /// The splash, until the start has deleted its controller; null afterwards.
+    std::shared_ptr<ISplash> GetSplash() const;
+    /// Does nothing after the start.
+    void SetSplash(const std::shared_ptr<ISplash>& splash);
+
+    /// For parts that want to hear of a links manager arriving; never null.
+    std::shared_ptr<LinksManagerSetter> GetLinksManagerSetter() const;
+
+    /// Days since "DateOfFirstStart" in the product settings; 0 when it was never written.
+    int GetDaysPassed() const;
+
+    /// Whether the product's installer is running. Waits up to half a second for it to let go of
+    /// its mutex; needs no application object.
+    static bool CheckRunnedInstaller();
+
+protected:
+    bool notify(QObject* receiver, QEvent* event) override;
+
+private:
+    Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager, bool mutexDisabled);
+
+    class Impl;
+    std::unique_ptr<Impl> d;
+};
+
+} // namespace Ostrel::App

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "App/Application/Application.h"
+#include "App/Application/TopManagerObserver.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace Ostrel::Util {
+class AppMutexLocker;
+}
+
+namespace Ostrel::App {
+
+class SplashController;
+
+/// Reacts to components as they arrive: the application identity and start banner, the partner
+/// name override, the links manager slot.
+class Application::Impl : public TopManagerObserver
+{
+public:
+    Impl(Application& application, const std::shared_ptr<ILifetimeManager>& lifetimeManager, bool mutexDisabled);
+    ~Impl() override;
+    Impl(const Impl&) = delete;
+    Impl& operator=(const Impl&) = delete;
+
+    void onComponentChanged(const std::shared_ptr<ICustomizationManager>& newValue,
+                            const std::shared_ptr<ICustomizationManager>& oldValue) override;
+    void onComponentChanged(const std::shared_ptr<ILaunchTypeProcessor>& newValue,
+                            const std::shared_ptr<ILaunchTypeProcessor>& oldValue) override;
+    void onComponentChanged(const std::shared_ptr<ILinksManager>& newValue,
+                            const std::shared_ptr<ILinksManager>& oldValue) override;
+    using TopManagerObserver::onComponentChanged;
+
+    // The fields keep this order: destruction releases the links slot and the pending URL before
+    // the application mutex.
+    Application& application;
+    std::unique_ptr<Util::AppMutexLocker> appMutexLocker;
+    SplashController* splashController = nullptr;
+    QString pendingNagUrl;
+    std::shared_ptr<LinksManagerSetter> linksManagerSetter;
+
+private:
+    void onStart();
+};
+
+} // namespace Ostrel::App

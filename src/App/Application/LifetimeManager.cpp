@@ -1,0 +1,122 @@
+#include "App/Application/LifetimeManager.h"
+
+#include "App/Application/OnStartHandler.h"
+#include "Events/EventHandlerList.h"
+#include "QtUtil/AlertBox.h"
+
+#include <QApplication>
+#include <QPixmap>
+#include <QProcess>
+
+#include <list>
+
+namespace Ostrel::App {
+
+struct LifetimeManager::Impl
+{
+    Core::EventHandlerList<ILifetimeObserver> observers;
+    std::list<OnStartHandler> onStartHandlers;
+    bool started = false;
+    bool quitting = false;
+};
+
+LifetimeManager::LifetimeManager()
+    : d(std::make_unique<Impl>())
+{
+}
+
+// Remaining one-shot handlers go first, then the observer list; nobody is told.
+LifetimeManager::~LifetimeManager() = default;
+
+void LifetimeManager::RegisterEventHandler(ILifetimeObserver* observer)
+{
+    d->observers.RegisterEventHandler(observer);
+}
+
+void LifetimeManager::UnregisterEventHandler(ILifetimeObserver* observer)
+{
+    d->observers.UnregisterEventHandler(observer);
+}
+
+void LifetimeManager::start()
+{
+    if (d->started)
+        return;
+    d->started = true;
+    d->observers.Notify(&ILifetimeObserver::onStart);
+
+    // A callback added during the notification was not in its copy of the list: it goes here
+    // without having run, which is what "one-shot, before the start" means.
+    for (OnStartHandler& handler : d->onStartHandlers)
+        d->observers.UnregisterEventHandler(&handler);
+    d->onStartHandlers.clear();
+}
+
+bool LifetimeManager::isStarted() const
+{
+    return d->started;
+}
+
+bool LifetimeManager::tryToRestart(WorkingMode mode, const std::string& iconPath, std::string arguments)
+{
+    if (mode == Interactive) {
+        Util::AlertBox box(QCoreApplication::translate("ApplicationRestarter", "Attention"),
+                           QCoreApplication::translate(
+                               "ApplicationRestarter",
+                               "<b>This will restart the application.</b><br>Do you want to continue?"),
+                           QMessageBox::Ok | QMessageBox::Cancel, QApplication::activeWindow(),
+                           Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+        const QPixmap icon(QString::fromStdString(iconPath));
+        if (!icon.isNull())
+            box.setIconPixmap(icon);
+        if (box.Exec() != QMessageBox::Ok)
+            return false;
+    }
+
+    if (!tryToQuit())
+        return false;
+
+    QString command = QLatin1Char('"') + QCoreApplication::applicationFilePath() + QLatin1Char('"');
+    if (!arguments.empty())
+        command += QLatin1Char(' ') + QString::fromStdString(arguments);
+    // The one-string form of startDetached: the command is split by the same rules Qt has always
+    // used for it, never by a shell.
+    QStringList parts = QProcess::splitCommand(command);
+    const QString program = parts.takeFirst();
+    QProcess::startDetached(program, parts);
+    return true;
+}
+
+bool LifetimeManager::tryToQuit()
+{
+    bool cancelled = false;
+    const std::function<void()> cancel = [&cancelled]() { cancelled = true; };
+    d->observers.Notify(&ILifetimeObserver::onQuitRequested, cancel);
+    if (cancelled)
+        return false;
+
+    d->quitting = true;
+    d->observers.Notify(&ILifetimeObserver::onQuit);
+    quitImpl();
+    return true;
+}
+
+bool LifetimeManager::isQuitting() const
+{
+    return d->quitting;
+}
+
+void LifetimeManager::addOnStartCallback(const std::function<void()>& callback)
+{
+    if (!callback)
+        return;
+    d->onStartHandlers.emplace_back(callback);
+    d->observers.RegisterEventHandler(&d->onStartHandlers.back());
+}
+
+void LifetimeManager::quitImpl()
+{
+    QCoreApplication::quit();
+}
+
+} // namespace Ostrel::App

@@ -1,0 +1,169 @@
+#include "Core/CustomizationManager.h"
+
+#include <glog/logging.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QSettings>
+#include <QStringList>
+
+#include <map>
+#include <optional>
+
+namespace Ostrel::App {
+
+namespace {
+
+const char* const kCollectEmail = "CollectEmail";
+
+std::string toUtf8(const QString& text)
+{
+    return text.toUtf8().toStdString();
+}
+
+// Keys and their built-in values, in a function so that nothing is built before main().
+const std::map<std::string, std::string>& builtInDefaults()
+{
+    static const std::map<std::string, std::string> defaults = {
+        {"ApplicationName", "Ostrel Capture"},
+        {"Version", "1.0.0.0"},
+        {"OrganizationName", "Ostrel"},
+        {"PartnerName", "ostrel"},
+        {"ModuleName", "capture"},
+        {"Brand", "ostrel"},
+        {kCollectEmail, "false"},
+        {"PageType", "thankyou"},
+        {"UserAgentProduct", "OstrelCapture/1.0"},
+        {"UserAgent", "Mozilla/5.0 (X11; Linux x86_64) OstrelCapture/1.0"},
+        {"PresentableName", "Ostrel Capture"},
+        {"InternalId", "ostrel-capture"},
+    };
+    return defaults;
+}
+
+std::optional<bool> parseBool(const QString& text)
+{
+    const QString lower = text.trimmed().toLower();
+    if (lower == QLatin1String("true") || lower == QLatin1String("1"))
+        return true;
+    if (lower == QLatin1String("false") || lower == QLatin1String("0"))
+        return false;
+    return std::nullopt;
+}
+
+} // namespace
+
+class CustomizationManager::Impl
+{
+public:
+    // Lays the file at `path` over the values gathered so far.
+    void applyLayer(const QString& path)
+    {
+        // QSettings reports nothing for a missing file, so look first.
+        if (!QFile::exists(path)) {
+            LOG(WARNING) << "Customization file " << toUtf8(path) << " not found, using defaults";
+            return;
+        }
+        QSettings file(path, QSettings::IniFormat);
+        if (file.status() != QSettings::NoError) {
+            LOG(WARNING) << "Customization file " << toUtf8(path)
+                         << " is unreadable or broken, using defaults";
+            return;
+        }
+        file.beginGroup(QStringLiteral("Customization"));
+        for (auto& [key, value] : values) {
+            const QVariant read = file.value(QString::fromUtf8(key.c_str()));
+            if (!read.isValid())
+                continue;
+            // An unquoted value with a comma reads as a list; the author meant the whole text.
+            const QString text = read.userType() == QMetaType::QStringList
+                                     ? read.toStringList().join(QStringLiteral(", "))
+                                     : read.toString();
+            if (key == kCollectEmail && !parseBool(text)) {
+                LOG(WARNING) << "Customization value CollectEmail=\"" << toUtf8(text) << "\" in "
+                             << toUtf8(path) << " is not a boolean; keeping " << value;
+                continue;
+            }
+            value = toUtf8(text.trimmed());
+        }
+        file.endGroup();
+    }
+
+    std::string value(const char* key) const { return values.at(key); }
+
+    std::map<std::string, std::string> values = builtInDefaults();
+    bool collectEmail = false;
+};
+
+CustomizationManager::CustomizationManager(const QString& filePath, const QString& embeddedPath)
+    : d(std::make_unique<Impl>())
+{
+    if (!embeddedPath.isEmpty())
+        d->applyLayer(embeddedPath);
+    d->applyLayer(filePath.isEmpty() ? defaultFilePath() : filePath);
+    d->collectEmail = parseBool(QString::fromUtf8(d->value(kCollectEmail).c_str())).value_or(false);
+}
+
+CustomizationManager::~CustomizationManager() = default;
+
+QString CustomizationManager::defaultFilePath()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/CaptureDeskCustom.ini");
+}
+
+std::string CustomizationManager::GetApplicationName() const
+{
+    return d->value("ApplicationName");
+}
+
+std::string CustomizationManager::GetVersion() const
+{
+    return d->value("Version");
+}
+
+std::string CustomizationManager::GetOrganizationName() const
+{
+    return d->value("OrganizationName");
+}
+
+std::string CustomizationManager::GetPartnerName() const
+{
+    return d->value("PartnerName");
+}
+
+std::string CustomizationManager::GetModuleName() const
+{
+    return d->value("ModuleName");
+}
+
+std::string CustomizationManager::GetBrand() const
+{
+    return d->value("Brand");
+}
+
+bool CustomizationManager::IsEmailCollectionEnabled() const
+{
+    return d->collectEmail;
+}
+
+std::string CustomizationManager::GetPageType() const
+{
+    return d->value("PageType");
+}
+
+std::pair<std::string, std::string> CustomizationManager::GetUserAgent() const
+{
+    return {d->value("UserAgentProduct"), d->value("UserAgent")};
+}
+
+std::string CustomizationManager::GetPresentableName() const
+{
+    return d->value("PresentableName");
+}
+
+std::string CustomizationManager::GetInternalId() const
+{
+    return d->value("InternalId");
+}
+
+} // namespace Ostrel::App

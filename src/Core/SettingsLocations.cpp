@@ -1,0 +1,34 @@
+#include "Core/SettingsLocations.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+namespace Ostrel::App {
+
+QString SettingsLocations::fileName(Scope scope)
+{
+    switch (scope) {
+    case Scope::Application:
+        return QStringLiteral("application.ini");
+    case Scope::Product:
+        return QStringLiteral("product.ini");
+    case Scope::User:
+        return QStringLiteral("user.ini");
+    case Scope::Installer:
+        return QStringLiteral("installer.ini");
+    case Scope::Mail:
+        return QStringLiteral("mail.ini");
+    }
+    return QStringLiteral("application.ini");
+}
+
+QString SettingsLocations::filePath(Scope scope)
+{
+    // GenericConfigLocation rather than AppConfigLocation: the installer and the restarter find the
+    // same files without a QCoreApplication named like ours.
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1Char('/') +
+           QCoreApplication::organizationName() + QLatin1Char('/') + QCoreApplication::applicationName() +
+           QLatin1Char('/') + fileName(scope);
+}
+
+} // namespace Ostrel::App

@@ -1,0 +1,285 @@
+#include "Core/SettingsStore.h"
+
+#include <glog/logging.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStringList>
+#include <QVariant>
+
+#include <mutex>
+#include <optional>
+
+namespace Ostrel::App {
+
+namespace {
+
+QString toQString(const std::string& text)
+{
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+std::string toUtf8(const QString& text)
+{
+    return text.toUtf8().toStdString();
+}
+
+std::vector<std::string> toUtf8List(const QStringList& list)
+{
+    std::vector<std::string> result;
+    result.reserve(static_cast<std::size_t>(list.size()));
+    for (const QString& item : list)
+        result.push_back(toUtf8(item));
+    return result;
+}
+
+// The text QSettings holds for a value, whatever type it kept it as in this run.
+QString textOf(const QVariant& value)
+{
+    // An unquoted "a, b" written by hand reads back as a list; the person meant the text.
+    if (value.userType() == QMetaType::QStringList)
+        return value.toStringList().join(QStringLiteral(", "));
+    return value.toString();
+}
+
+std::optional<bool> parseBool(const QString& text)
+{
+    const QString lower = text.trimmed().toLower();
+    if (lower == QLatin1String("true") || lower == QLatin1String("1"))
+        return true;
+    if (lower == QLatin1String("false") || lower == QLatin1String("0"))
+        return false;
+    return std::nullopt;
+}
+
+} // namespace
+
+class SettingsStore::Impl
+{
+public:
+    explicit Impl(const QString& path) : filePath(path), settings(path, QSettings::IniFormat)
+    {
+        const QFileInfo info(path);
+        bool broken = settings.status() != QSettings::NoError;
+        if (!broken && info.exists()) {
+            // Running as a privileged user hides permission problems from QSettings' status;
+            // opening the file ourselves tells the truth.
+            QFile probe(path);
+            broken = info.isDir() || !probe.open(QIODevice::ReadOnly);
+        }
+        if (broken) {
+            readOnly = true;
+            LOG(ERROR)
+                << "Settings file " << toUtf8(path)
+                << " is unreadable or broken; it is left untouched and nothing is saved to it in this run";
+        }
+    }
+
+    // Null when the key is unusable or absent; the caller returns its default.
+    std::optional<QString> text(const std::string& key) const
+    {
+        if (!checkKey(key, "read"))
+            return std::nullopt;
+        const QVariant value = settings.value(toQString(key));
+        if (!value.isValid())
+            return std::nullopt;
+        return textOf(value);
+    }
+
+    void warnUnconvertible(const std::string& key, const QString& value, const char* type) const
+    {
+        LOG(WARNING) << "Settings value " << key << "=\"" << toUtf8(value) << "\" in " << toUtf8(filePath)
+                     << " is not a " << type << "; using the default";
+    }
+
+    bool checkKey(const std::string& key, const char* operation) const
+    {
+        if (!key.empty())
+            return true;
+        LOG(WARNING) << "Settings " << operation << " with an empty key in " << toUtf8(filePath)
+                     << " ignored";
+        return false;
+    }
+
+    bool checkWritable(const std::string& key)
+    {
+        if (!checkKey(key, "write"))
+            return false;
+        if (readOnly) {
+            LOG(WARNING) << "Settings write of \"" << key << "\" ignored: " << toUtf8(filePath)
+                         << " is kept untouched in this run";
+            return false;
+        }
+        return true;
+    }
+
+    void write(const std::string& key, const QVariant& value)
+    {
+        settings.setValue(toQString(key), value);
+        flush();
+    }
+
+    void flush()
+    {
+        settings.sync();
+        if (settings.status() != QSettings::NoError && !writeErrorReported) {
+            writeErrorReported = true;
+            LOG(ERROR) << "Settings file " << toUtf8(filePath) << " could not be written";
+        }
+    }
+
+    QStringList childrenOf(const std::string& group, bool groups) const
+    {
+        settings.beginGroup(toQString(group));
+        const QStringList result = groups ? settings.childGroups() : settings.childKeys();
+        settings.endGroup();
+        return result;
+    }
+
+    const QString filePath;
+    // QSettings' reads are const only in name: beginGroup() changes its state.
+    mutable QSettings settings;
+    mutable std::recursive_mutex mutex;
+    bool readOnly = false;
+    bool writeErrorReported = false;
+};
+
+SettingsStore::SettingsStore(const QString& filePath) : d(std::make_unique<Impl>(filePath)) {}
+
+SettingsStore::~SettingsStore() = default;
+
+QString SettingsStore::filePath() const
+{
+    return d->filePath;
+}
+
+bool SettingsStore::isReadOnly() const
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    return d->readOnly;
+}
+
+void SettingsStore::SetString(const std::string& key, const std::string& value)
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    if (d->checkWritable(key))
+        d->write(key, toQString(value));
+}
+
+bool SettingsStore::GetBool(const std::string& key, bool defaultValue) const
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    const std::optional<QString> text = d->text(key);
+    if (!text)
+        return defaultValue;
+    if (const std::optional<bool> value = parseBool(*text))
+        return *value;
+    d->warnUnconvertible(key, *text, "boolean");
+    return defaultValue;
+}
+
+std::string SettingsStore::GetString(const std::string& key, const std::string& defaultValue) const
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    const std::optional<QString> text = d->text(key);
+    return text ? toUtf8(*text) : defaultValue;
+}
+
+unsigned int SettingsStore::GetUInt(const std::string& key, unsigned int defaultValue) const
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    const std::optional<QString> text = d->text(key);
+    if (!text)
+        return defaultValue;
+    bool ok = false;
+    const unsigned int value = text->trimmed().toUInt(&ok);
+    if (ok)
+        return value;
+    d->warnUnconvertible(key, *text, "non-negative number");
+    return defaultValue;
+}
+
+int SettingsStore::GetInt(const std::string& key, int defaultValue) const
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    const std::optional<QString> text = d->text(key);
+    if (!text)
+        return defaultValue;
+    bool ok = false;
+    const int value = text->trimmed().toInt(&ok);
+    if (ok)
+        return value;
+    d->warnUnconvertible(key, *text, "number");
+    return defaultValue;
+}
+
+bool SettingsStore::Has(const std::string& key) const
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    return d->checkKey(key, "lookup") && d->settings.contains(toQString(key));
+}
+
+void SettingsStore::Remove(const std::string& key)
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    if (!d->checkWritable(key))
+        return;
+    const QString name = toQString(key);
+    // QSettings::remove() also takes every key below a group of the same name; put those back
+    // before syncing so that the file never misses them.
+    QList<QPair<QString, QVariant>> below;
+    d->settings.beginGroup(name);
+    const QStringList keysBelow = d->settings.allKeys();
+    for (const QString& child : keysBelow)
+        below.append({child, d->settings.value(child)});
+    d->settings.endGroup();
+    d->settings.remove(name);
+    for (const auto& [child, value] : below)
+        d->settings.setValue(name + QLatin1Char('/') + child, value);
+    d->flush();
+}
+
+void SettingsStore::SetBool(const std::string& key, bool value)
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    if (d->checkWritable(key))
+        d->write(key, value);
+}
+
+void SettingsStore::SetUInt(const std::string& key, unsigned int value)
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    if (d->checkWritable(key))
+        d->write(key, value);
+}
+
+void SettingsStore::SetInt(const std::string& key, int value)
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    if (d->checkWritable(key))
+        d->write(key, value);
+}
+
+void SettingsStore::RemoveGroup(const std::string& group)
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    if (!d->checkWritable(group))
+        return;
+    d->settings.remove(toQString(group));
+    d->flush();
+}
+
+std::vector<std::string> SettingsStore::ChildKeys(const std::string& group) const
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    return toUtf8List(d->childrenOf(group, false));
+}
+
+std::vector<std::string> SettingsStore::ChildGroups(const std::string& group) const
+{
+    std::lock_guard<std::recursive_mutex> lock(d->mutex);
+    return toUtf8List(d->childrenOf(group, true));
+}
+
+} // namespace Ostrel::App
