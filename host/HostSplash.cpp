@@ -1,13 +1,12 @@
 #include "HostSplash.h"
 
-#include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QSplashScreen>
 
 namespace {
 
-QPixmap splashPicture()
+QPixmap splashPicture(const QString& title)
 {
     QPixmap picture(420, 240);
     QPainter painter(&picture);
@@ -20,7 +19,7 @@ QPixmap splashPicture()
     font.setPointSize(26);
     font.setBold(true);
     painter.setFont(font);
-    painter.drawText(picture.rect().adjusted(0, -20, 0, -20), Qt::AlignCenter, QGuiApplication::applicationDisplayName());
+    painter.drawText(picture.rect().adjusted(0, -20, 0, -20), Qt::AlignCenter, title);
     font.setPointSize(10);
     font.setBold(false);
     painter.setFont(font);
@@ -30,13 +29,16 @@ QPixmap splashPicture()
 
 } // namespace
 
-HostSplash::HostSplash() = default;
+HostSplash::HostSplash(const QString& title)
+    : m_title(title)
+{
+}
 HostSplash::~HostSplash() = default;
 
 void HostSplash::show()
 {
     if (!m_screen)
-        m_screen = std::make_unique<QSplashScreen>(splashPicture());
+        m_screen = std::make_unique<QSplashScreen>(splashPicture(m_title));
     m_screen->show();
 }
 

@@ -2,6 +2,8 @@
 
 #include "App/Application/ISplash.h"
 
+#include <QString>
+
 #include <memory>
 
 class QSplashScreen;
@@ -10,12 +12,14 @@ class QSplashScreen;
 class HostSplash : public Ostrel::App::ISplash
 {
 public:
-    HostSplash();
+    /// `title` is the product name people read.
+    explicit HostSplash(const QString& title);
     ~HostSplash() override;
 
     void show() override;
     void dismiss() override;
 
 private:
+    QString m_title;
     std::unique_ptr<QSplashScreen> m_screen;
 };

@@ -1,9 +1,13 @@
 #include "MainWindow.h"
 
 #include "App/Application/Application.h"
+#include "Interfaces/ICustomizationManager.h"
+#include "Interfaces/ILaunchTypeProcessor.h"
 #include "Interfaces/ILifetimeManager.h"
+#include "Interfaces/IProductSettingsManager.h"
 
 #include <QAction>
+#include <QFormLayout>
 #include <QLabel>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -29,6 +33,25 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
     layout->addWidget(title, 0, Qt::AlignHCenter);
     auto* version = new QLabel(tr("Version %1").arg(QCoreApplication::applicationVersion()), central);
     layout->addWidget(version, 0, Qt::AlignHCenter);
+    layout->addSpacing(16);
+
+    // What the shell knows about this run, as a product's "About" page would show it.
+    auto* facts = new QFormLayout;
+    facts->setLabelAlignment(Qt::AlignRight);
+    const auto customization = m_application.GetCustomizationManager();
+    const auto product = m_application.GetProductSettingsManager();
+    const auto launchType = m_application.GetLaunchTypeProcessor();
+    const auto addFact = [&](const QString& label, const QString& value) {
+        auto* field = new QLabel(value, central);
+        field->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        facts->addRow(label, field);
+    };
+    addFact(tr("Organization:"), QCoreApplication::organizationName());
+    addFact(tr("Partner:"), product ? QString::fromStdString(product->GetString("PartnerName", std::string())) : QString());
+    addFact(tr("Launch type:"), launchType ? QString::number(launchType->GetLaunchType()) : tr("unknown"));
+    addFact(tr("Days since first start:"), QString::number(m_application.GetDaysPassed()));
+    addFact(tr("Brand:"), customization ? QString::fromStdString(customization->GetBrand()) : QString());
+    layout->addLayout(facts);
     layout->addStretch();
     setCentralWidget(central);
 

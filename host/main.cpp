@@ -95,21 +95,31 @@ int main(int argc, char** argv)
                                        QStringLiteral("Quit by itself MS milliseconds after the start."),
                                        QStringLiteral("MS"));
     parser.addOption(quitAfter);
+    const QCommandLineOption holdStart(QStringLiteral("hold-start"),
+                                       QStringLiteral("Wait MS milliseconds before the start, as a slow start-up "
+                                                      "would; the splash stays up meanwhile."),
+                                       QStringLiteral("MS"));
+    parser.addOption(holdStart);
     // The shell's own options (test options) are read by the shell; unknown ones are not an error here.
     parser.parse(QCoreApplication::arguments());
     if (parser.isSet(QStringLiteral("help"))) {
         std::fputs(qPrintable(parser.helpText()), stdout);
         return 0;
     }
-    int quitAfterMs = -1;
-    if (parser.isSet(quitAfter)) {
+    const auto milliseconds = [&](const QCommandLineOption& option, int* value) {
+        if (!parser.isSet(option))
+            return true;
         bool valid = false;
-        quitAfterMs = parser.value(quitAfter).toInt(&valid);
-        if (!valid || quitAfterMs < 0) {
-            std::fprintf(stderr, "ostrel-host: --quit-after takes a number of milliseconds\n");
-            return 2;
-        }
-    }
+        *value = parser.value(option).toInt(&valid);
+        if (valid && *value >= 0)
+            return true;
+        std::fprintf(stderr, "ostrel-host: --%s takes a number of milliseconds\n", qPrintable(option.names().first()));
+        return false;
+    };
+    int quitAfterMs = -1;
+    int holdStartMs = 0;
+    if (!milliseconds(quitAfter, &quitAfterMs) || !milliseconds(holdStart, &holdStartMs))
+        return 2;
 
     // 3. The components: the customization first (it names the application and logs the banner),
     //    then the settings, and the launch type processor after the settings it reads.
@@ -117,7 +127,7 @@ int main(int argc, char** argv)
         std::make_shared<CustomizationManager>(QString(), QStringLiteral(":/host/CaptureDeskCustom.ini"));
     const QString logFile = startLogFile(*customization);
 
-    const auto splash = std::make_shared<HostSplash>();
+    const auto splash = std::make_shared<HostSplash>(QString::fromStdString(customization->GetPresentableName()));
     splash->show();
     app.SetSplash(splash);
 
@@ -141,13 +151,19 @@ int main(int argc, char** argv)
     TrackingLifetimeObserver trackingObserver;
     lifetime->RegisterEventHandler(&trackingObserver);
 
+    // 5. The start: observers hear it, the splash goes, the one-shot callbacks run once. The main
+    //    window appears with it.
     MainWindow window(app);
-    window.show();
-
-    // 5. The start: observers hear it, the splash goes, the one-shot callbacks run once.
-    lifetime->start();
-    if (quitAfterMs >= 0)
-        QTimer::singleShot(quitAfterMs, &app, [&]() { lifetime->tryToQuit(); });
+    const auto startNow = [&]() {
+        window.show();
+        lifetime->start();
+        if (quitAfterMs >= 0)
+            QTimer::singleShot(quitAfterMs, &app, [&]() { lifetime->tryToQuit(); });
+    };
+    if (holdStartMs > 0)
+        QTimer::singleShot(holdStartMs, &app, startNow);
+    else
+        startNow();
 
     // 6. The event loop.
     const int status = QApplication::exec();
