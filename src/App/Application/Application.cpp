@@ -189,7 +189,10 @@ bool Application::CheckRunnedInstaller()
 bool Application::notify(QObject* receiver, QEvent* event)
 {
     try {
-        LogUserAction(receiver, event);
+        // Tested here, before any call, so that every other event costs one comparison.
+        const QEvent::Type type = event->type();
+        if (Q_UNLIKELY(type == QEvent::MouseButtonPress || type == QEvent::Shortcut))
+            LogUserAction(receiver, event);
         return QApplication::notify(receiver, event);
     } catch (const std::exception& exception) {
         const std::string receiverClass = receiver ? boost::core::demangle(typeid(*receiver).name()) : "<NULL>";

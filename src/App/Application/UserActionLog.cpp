@@ -27,6 +27,9 @@ void LogUserAction(QObject* receiver, QEvent* event)
     const QEvent::Type type = event->type();
     if (type != QEvent::MouseButtonPress && type != QEvent::Shortcut)
         return;
+    // glog would format the line only to drop it.
+    if (FLAGS_minloglevel > google::GLOG_INFO)
+        return;
 
     auto* action = qobject_cast<QAction*>(receiver);
     if (!action && !qobject_cast<QAbstractButton*>(receiver))
