@@ -1,4 +1,5 @@
 #include "Core/CustomizationManager.h"
+#include "Core/SettingsText_p.h"
 
 #include <glog/logging.h>
 
@@ -41,16 +42,6 @@ const std::map<std::string, std::string>& builtInDefaults()
     return defaults;
 }
 
-std::optional<bool> parseBool(const QString& text)
-{
-    const QString lower = text.trimmed().toLower();
-    if (lower == QLatin1String("true") || lower == QLatin1String("1"))
-        return true;
-    if (lower == QLatin1String("false") || lower == QLatin1String("0"))
-        return false;
-    return std::nullopt;
-}
-
 } // namespace
 
 class CustomizationManager::Impl
@@ -79,7 +70,7 @@ public:
             const QString text = read.userType() == QMetaType::QStringList
                                      ? read.toStringList().join(QStringLiteral(", "))
                                      : read.toString();
-            if (key == kCollectEmail && !parseBool(text)) {
+            if (key == kCollectEmail && !SettingsText::parseBool(text)) {
                 LOG(WARNING) << "Customization value CollectEmail=\"" << toUtf8(text) << "\" in "
                              << toUtf8(path) << " is not a boolean; keeping " << value;
                 continue;
@@ -101,7 +92,7 @@ CustomizationManager::CustomizationManager(const QString& filePath, const QStrin
     if (!embeddedPath.isEmpty())
         d->applyLayer(embeddedPath);
     d->applyLayer(filePath.isEmpty() ? defaultFilePath() : filePath);
-    d->collectEmail = parseBool(QString::fromUtf8(d->value(kCollectEmail).c_str())).value_or(false);
+    d->collectEmail = SettingsText::parseBool(QString::fromUtf8(d->value(kCollectEmail).c_str())).value_or(false);
 }
 
 CustomizationManager::~CustomizationManager() = default;

@@ -1,4 +1,5 @@
 #include "Core/SettingsStore.h"
+#include "Core/SettingsText_p.h"
 
 #include <glog/logging.h>
 
@@ -41,16 +42,6 @@ QString textOf(const QVariant& value)
     if (value.userType() == QMetaType::QStringList)
         return value.toStringList().join(QStringLiteral(", "));
     return value.toString();
-}
-
-std::optional<bool> parseBool(const QString& text)
-{
-    const QString lower = text.trimmed().toLower();
-    if (lower == QLatin1String("true") || lower == QLatin1String("1"))
-        return true;
-    if (lower == QLatin1String("false") || lower == QLatin1String("0"))
-        return false;
-    return std::nullopt;
 }
 
 } // namespace
@@ -173,7 +164,7 @@ bool SettingsStore::GetBool(const std::string& key, bool defaultValue) const
     const std::optional<QString> text = d->text(key);
     if (!text)
         return defaultValue;
-    if (const std::optional<bool> value = parseBool(*text))
+    if (const std::optional<bool> value = SettingsText::parseBool(*text))
         return *value;
     d->warnUnconvertible(key, *text, "boolean");
     return defaultValue;
