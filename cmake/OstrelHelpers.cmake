@@ -1,11 +1,15 @@
-# ostrel_add_library(<name> [HEADER_ONLY] FOLDER <dir under src> SOURCES ... HEADERS ... LIBS ...)
+# ostrel_add_library(<name> [HEADER_ONLY] FOLDER <dir under src> SOURCES ... HEADERS ... LIBS ...
+#                    [HEADER_BASE <dir the headers' install paths are relative to>])
 #
 # One library of the project: shared (hidden visibility, a generated export header
 # <FOLDER>/<name>_export.h with the macro OSTREL_<NAME>_EXPORT) or header-only, with the
 # alias Ostrel::<Name>, and install rules for the Ostrel CMake package. Every target sees
 # headers from src/, so that includes read "Folder/Header.h" everywhere.
 function(ostrel_add_library name)
-    cmake_parse_arguments(ARG "HEADER_ONLY" "FOLDER;ALIAS" "SOURCES;HEADERS;LIBS;PRIVATE_LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "HEADER_ONLY" "FOLDER;ALIAS;HEADER_BASE" "SOURCES;HEADERS;LIBS;PRIVATE_LIBS" ${ARGN})
+    if(NOT ARG_HEADER_BASE)
+        set(ARG_HEADER_BASE ${CMAKE_CURRENT_SOURCE_DIR})
+    endif()
     set(target ostrel_${name})
     if(ARG_HEADER_ONLY)
         add_library(${target} INTERFACE)
@@ -37,9 +41,12 @@ function(ostrel_add_library name)
     install(TARGETS ${target} EXPORT OstrelTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    # Installed below include/ostrel/<FOLDER>, keeping their path relative to HEADER_BASE.
     foreach(header ${ARG_HEADERS})
-        get_filename_component(dir ${header} DIRECTORY)
-        install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ostrel/${ARG_FOLDER}/${dir})
+        get_filename_component(absolute ${header} ABSOLUTE)
+        file(RELATIVE_PATH relative ${ARG_HEADER_BASE} ${absolute})
+        get_filename_component(dir ${relative} DIRECTORY)
+        install(FILES ${absolute} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ostrel/${ARG_FOLDER}/${dir})
     endforeach()
 endfunction()
 

@@ -1,10 +1,10 @@
 #include "App/Application/Application.h"
 
-#include "App/Application/ApplicationImpl.h"
+#include "App/Application/ApplicationImpl_p.h"
 #include "App/Application/DirectCallGateway.h"
 #include "App/Application/ProductConstants.h"
-#include "App/Application/SplashController.h"
-#include "App/Application/UserActionLog.h"
+#include "App/Application/SplashController_p.h"
+#include "App/Application/UserActionLog_p.h"
 #include "App/Application/VersionLines.h"
 #include "Events/NotNull.h"
 #include "Foundation/AppMutexLocker.h"

@@ -1,6 +1,6 @@
 #include "App/Application/LifetimeManager.h"
 
-#include "App/Application/OnStartHandler.h"
+#include "App/Application/OnStartHandler_p.h"
 #include "Events/EventHandlerList.h"
 #include "QtUtil/AlertBox.h"
 

@@ -1,4 +1,4 @@
-#include "App/Application/ProcessList.h"
+#include "App/Application/ProcessList_p.h"
 
 #include <QDir>
 #include <QFileInfo>

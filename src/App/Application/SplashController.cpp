@@ -1,4 +1,4 @@
-#include "App/Application/SplashController.h"
+#include "App/Application/SplashController_p.h"
 
 #include "App/Application/Application.h"
 #include "App/Application/ISplash.h"

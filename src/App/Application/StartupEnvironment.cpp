@@ -1,6 +1,6 @@
 #include "App/Application/StartupEnvironment.h"
 
-#include "App/Application/ProcessList.h"
+#include "App/Application/ProcessList_p.h"
 #include "Foundation/DyLib.h"
 
 #include <QCoreApplication>

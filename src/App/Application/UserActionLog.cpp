@@ -1,4 +1,4 @@
-#include "App/Application/UserActionLog.h"
+#include "App/Application/UserActionLog_p.h"
 
 #include "QtUtil/Utf8.h"
 
