@@ -151,10 +151,14 @@ void BM_NotifyRatio(benchmark::State& state)
 }
 BENCHMARK(BM_NotifyRatio)->ArgName("press")->Arg(0)->Arg(1)->Iterations(400);
 
+// A component that only occupies its node: the fetch never looks inside, so any non-null pointer
+// will do, whatever the interface asks of an implementation.
 template <class T>
-struct Dummy : T
+std::shared_ptr<T> placeholder()
 {
-};
+    static char storage alignas(std::max_align_t)[64];
+    return std::shared_ptr<T>(std::shared_ptr<void>(), reinterpret_cast<T*>(storage));
+}
 
 struct FixedLaunchType : ILaunchTypeProcessor
 {
@@ -172,24 +176,24 @@ struct FullContext
         const auto path = [this](const char* name) { return folder.filePath(QString::fromLatin1(name)); };
         context.set<IApplicationSettingsManager>(std::make_shared<ApplicationSettingsManager>(path("a.ini")));
         context.set<ICustomizationManager>(std::make_shared<CustomizationManager>(path("none.ini")));
-        context.set<IIdleManager>(std::make_shared<Dummy<IIdleManager>>());
+        context.set<IIdleManager>(placeholder<IIdleManager>());
         context.set<IInstallerSettingsManager>(std::make_shared<InstallerSettingsManager>(path("i.ini")));
-        context.set<IInternetConnectionChecker>(std::make_shared<Dummy<IInternetConnectionChecker>>());
+        context.set<IInternetConnectionChecker>(placeholder<IInternetConnectionChecker>());
         context.set<ILifetimeManager>(std::make_shared<LifetimeManager>());
         context.set<ILaunchTypeProcessor>(std::make_shared<FixedLaunchType>());
-        context.set<ILinksManager>(std::make_shared<Dummy<ILinksManager>>());
-        context.set<ILookAndFeelManager>(std::make_shared<Dummy<ILookAndFeelManager>>());
+        context.set<ILinksManager>(placeholder<ILinksManager>());
+        context.set<ILookAndFeelManager>(placeholder<ILookAndFeelManager>());
         context.set<IMailSettingsManager>(std::make_shared<MailSettingsManager>(path("m.ini")));
         context.set<IPCBaseProtocol>(std::make_shared<IPCBaseProtocol>());
-        context.set<IPartnerTracking>(std::make_shared<Dummy<IPartnerTracking>>());
+        context.set<IPartnerTracking>(placeholder<IPartnerTracking>());
         context.set<IProductSettingsManager>(std::make_shared<ProductSettingsManager>(path("p.ini")));
         context.set<IUserSettingsManager>(std::make_shared<UserSettingsManager>(path("u.ini")));
-        context.set<Web::IAccountController>(std::make_shared<Dummy<Web::IAccountController>>());
+        context.set<Web::IAccountController>(placeholder<Web::IAccountController>());
         context.set<IHardwareInfo>(std::make_shared<HardwareInfo>());
-        context.set<NagScreen::IManager>(std::make_shared<Dummy<NagScreen::IManager>>());
-        context.set<WebSocket::IMessageBroker>(std::make_shared<Dummy<WebSocket::IMessageBroker>>());
+        context.set<NagScreen::IManager>(placeholder<NagScreen::IManager>());
+        context.set<WebSocket::IMessageBroker>(placeholder<WebSocket::IMessageBroker>());
         context.set<ExternalStimulus::IGateway>(std::make_shared<ExternalStimulus::DirectCallGateway>());
-        context.set<Networking::IHttpClient>(std::make_shared<Dummy<Networking::IHttpClient>>());
+        context.set<Networking::IHttpClient>(placeholder<Networking::IHttpClient>());
         context.set<Tracking::GeneralOstrelTracker>(std::make_shared<Tracking::GeneralOstrelTracker>(path("t.jsonl")));
     }
 };
