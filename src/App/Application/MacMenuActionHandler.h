@@ -1,0 +1,44 @@
+#pragma once
+
+#include "App/Application/ostrel_app_export.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class QMenuBar;
+class QWidget;
+
+namespace Ostrel::App {
+
+/// Wires the standard application menu ("menuMacOSMenu": hide, hide others, preferences, quit)
+/// and window menu ("menuWindow": minimize, zoom, bring all to front) of a menu bar: the actions
+/// are found by their object names, get their usual shortcuts, and act on the active window.
+/// Menus or actions that aren't there are left out.
+///
+/// `canManipulate` may refuse a window (an empty function accepts every one). With no active
+/// window it is asked about null, and its answer decides: it must not say yes to null.
+class OSTREL_APP_EXPORT MacMenuActionHandler : public QObject
+{
+    Q_OBJECT
+
+public:
+    MacMenuActionHandler(QMenuBar* menuBar, std::function<bool(QWidget*)> canManipulate);
+    ~MacMenuActionHandler() override;
+
+private Q_SLOTS:
+    void onHideItself();
+    void onHideOthers();
+    void onMinimize();
+    void onZoom();
+    void onBringAllToFront();
+
+private:
+    virtual bool canManipulateWithWidget(QWidget* widget);
+
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};
+
+} // namespace Ostrel::App
