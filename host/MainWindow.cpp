@@ -1,5 +1,8 @@
 #include "MainWindow.h"
 
+#include "HelpMenu.h"
+#include "LookAndFeelWiring.h"
+
 #include "App/Application/Application.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/ILaunchTypeProcessor.h"
@@ -67,4 +70,8 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
     connect(quit, &QAction::triggered, this, [this]() { m_application.get<ILifetimeManager>()->tryToQuit(); });
 
     statusBar()->showMessage(tr("Ready"));
+
+    // Language and Theme menus, the stylesheet and the remembered answers.
+    new LookAndFeelWiring(m_application, *this);
+    addHelpMenu(*menuBar(), m_application);
 }

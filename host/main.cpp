@@ -6,12 +6,14 @@
 
 #include "App/Application/Application.h"
 #include "App/Application/LifetimeManager.h"
+#include "App/Application/PreferredBrowser.h"
 #include "App/Application/StartupEnvironment.h"
 #include "Core/ApplicationSettingsManager.h"
 #include "Core/CustomizationManager.h"
 #include "Core/HardwareInfo.h"
 #include "Core/InstallerSettingsManager.h"
 #include "Core/LaunchTypeProcessor.h"
+#include "Core/LinksManager.h"
 #include "Core/MailSettingsManager.h"
 #include "Core/ProductSettingsManager.h"
 #include "Core/UserSettingsManager.h"
@@ -154,6 +156,12 @@ int main(int argc, char** argv)
     // 5. The start: observers hear it, the splash goes, the one-shot callbacks run once. The main
     //    window appears with it.
     MainWindow window(app);
+    // Links (the look and feel, for their locale, came with the window): they open in the preferred
+    // browser through the URL handler that the browser installs for the process.
+    PreferredBrowser preferredBrowser(app.GetLookAndFeel(), productSettings, installerSettings);
+    app.SetLinksManager(std::make_shared<LinksManager>(
+        customization, app.get<IHardwareInfo>(), app.GetLookAndFeel(), app.GetMailSettingsManager(), productSettings,
+        app.get<IUserSettingsManager>(), app.GetLaunchTypeProcessor(), nullptr, installerSettings));
     const auto startNow = [&]() {
         window.show();
         lifetime->start();

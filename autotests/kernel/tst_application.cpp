@@ -99,6 +99,12 @@ protected:
 
 class Links : public ILinksManager
 {
+public:
+    QString GetUrl(const QString&) const override { return {}; }
+    QString GetUrl(URLKeys) const override { return {}; }
+    QString GenerateUrl(const QString& url, QMap<QString, QString>) const override { return url; }
+    void OpenUrl(const QString&) const override {}
+    void OpenUrl(URLKeys) const override {}
 };
 
 class SetterListener : public Core::ComponentSetterObserver

@@ -78,11 +78,18 @@ public:
             value = toUtf8(text.trimmed());
         }
         file.endGroup();
+        for (const char* group : {"Hosts", "Links"}) {
+            file.beginGroup(QString::fromLatin1(group));
+            for (const QString& key : file.childKeys())
+                customValues[std::string(group) + '/' + toUtf8(key)] = toUtf8(file.value(key).toString().trimmed());
+            file.endGroup();
+        }
     }
 
     std::string value(const char* key) const { return values.at(key); }
 
     std::map<std::string, std::string> values = builtInDefaults();
+    std::map<std::string, std::string> customValues;
     bool collectEmail = false;
 };
 
@@ -155,6 +162,12 @@ std::string CustomizationManager::GetPresentableName() const
 std::string CustomizationManager::GetInternalId() const
 {
     return d->value("InternalId");
+}
+
+std::string CustomizationManager::GetCustomValue(const std::string& key) const
+{
+    const auto found = d->customValues.find(key);
+    return found == d->customValues.end() ? std::string() : found->second;
 }
 
 } // namespace Ostrel::App

@@ -23,6 +23,8 @@ namespace Ostrel::App {
 ///
 /// Both files are INI, group [Customization], keys as named above; CollectEmail takes
 /// true/false/1/0. Values holding ',' or ';' (the user agent) must be quoted in the file.
+/// The groups [Hosts] and [Links] (endpoint hosts and link templates, see LinksManager) are read
+/// through GetCustomValue("Hosts/links") and the like, layered the same way.
 /// A missing, unreadable or broken file leaves the earlier layers in place with one WARNING line
 /// naming it; keys a file lacks come from the earlier layers without a word. Everything is read
 /// once, in the constructor.
@@ -49,6 +51,7 @@ public:
     std::pair<std::string, std::string> GetUserAgent() const override;
     std::string GetPresentableName() const override;
     std::string GetInternalId() const override;
+    std::string GetCustomValue(const std::string& key) const override;
 
 private:
     class Impl;

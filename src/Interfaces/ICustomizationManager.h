@@ -26,6 +26,13 @@ public:
     /// The product name as people read it ("Ostrel Capture").
     virtual std::string GetPresentableName() const = 0;
     virtual std::string GetInternalId() const = 0;
+    /// A value of the customization that has no getter of its own, by "Group/Key" (the links
+    /// read "Hosts/<endpoint>" and "Links/<key name>"); empty when the customization has none.
+    virtual std::string GetCustomValue(const std::string& key) const
+    {
+        (void)key;
+        return {};
+    }
 };
 
 } // namespace Ostrel::App

@@ -6,14 +6,22 @@
 #include "App/Application/SplashController_p.h"
 #include "App/Application/UserActionLog_p.h"
 #include "App/Application/VersionLines.h"
+#include "Core/LinksManager.h"
 #include "Events/NotNull.h"
 #include "Foundation/AppMutexLocker.h"
 #include "Foundation/CrashRecord.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IGateway.h"
+#include "Interfaces/IHardwareInfo.h"
+#include "Interfaces/IInstallerSettingsManager.h"
 #include "Interfaces/ILaunchTypeProcessor.h"
 #include "Interfaces/ILifetimeManager.h"
+#include "Interfaces/ILinksManager.h"
+#include "Interfaces/ILookAndFeelManager.h"
+#include "Interfaces/IMailSettingsManager.h"
+#include "Interfaces/IPartnerTracking.h"
 #include "Interfaces/IProductSettingsManager.h"
+#include "Interfaces/IUserSettingsManager.h"
 #include "QtUtil/ApplicationVisibleVersion.h"
 #include "QtUtil/HardwareInfoReport.h"
 #include "QtUtil/Utf8.h"
@@ -158,6 +166,26 @@ void Application::SetSplash(const std::shared_ptr<ISplash>& splash)
 std::shared_ptr<Application::LinksManagerSetter> Application::GetLinksManagerSetter() const
 {
     return d->linksManagerSetter;
+}
+
+std::shared_ptr<ILinksManager> Application::GetLinksManager()
+{
+    if (auto manager = get<ILinksManager>())
+        return manager;
+    LOG(ERROR) << "###############################################################";
+    LOG(ERROR) << "### Deprecated. SetLinksManager before use GetLinksManager! ###";
+    LOG(ERROR) << "###############################################################";
+    const auto manager = std::make_shared<LinksManager>(
+        get<ICustomizationManager>(), get<IHardwareInfo>(), get<ILookAndFeelManager>(), get<IMailSettingsManager>(),
+        get<IProductSettingsManager>(), get<IUserSettingsManager>(), get<ILaunchTypeProcessor>(),
+        get<IPartnerTracking>(), get<IInstallerSettingsManager>());
+    SetLinksManager(manager);
+    return manager;
+}
+
+QString Application::GetUrl(const URLKeys& key)
+{
+    return GetLinksManager()->GetUrl(key);
 }
 
 int Application::GetDaysPassed() const

@@ -3,6 +3,7 @@
 #include "App/Application/ITopManager.h"
 #include "App/Application/ostrel_app_export.h"
 #include "Events/ComponentSetter.h"
+#include "Interfaces/URLKeys.h"
 
 #include <QApplication>
 
@@ -63,6 +64,13 @@ public:
 
     /// For parts that want to hear of a links manager arriving; never null.
     std::shared_ptr<LinksManagerSetter> GetLinksManagerSetter() const;
+
+    /// The links manager. Before SetLinksManager this is a deprecated path: it logs three ERROR
+    /// lines, builds the core library's LinksManager from the components and publishes it, so
+    /// the components it needs must be set (otherwise NotNull's std::logic_error).
+    std::shared_ptr<ILinksManager> GetLinksManager();
+    /// The finished URL of `key`, from GetLinksManager().
+    virtual QString GetUrl(const URLKeys& key);
 
     /// Days since "DateOfFirstStart" in the product settings; 0 when it was never written.
     int GetDaysPassed() const;

@@ -1,0 +1,286 @@
+// The dialogs that keep an answer or a colour in the settings, driven as a user would, with what
+// they stored read back by a second process; the driver messages and the statistics question.
+
+#include "App/Application/AppStoreStatistics.h"
+#include "App/Application/ColorDialogHelper.h"
+#include "App/Application/ConfirmationAlertBox.h"
+#include "App/Application/GPUDriverMessages.h"
+#include "Core/ApplicationSettingsManager.h"
+#include "Interfaces/ICustomizationManager.h"
+
+#include "TestEnvironment.h"
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QProcess>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <functional>
+
+using namespace Ostrel;
+using namespace Ostrel::App;
+
+namespace {
+
+QMap<QString, QString> probe(const QStringList& arguments)
+{
+    QProcess process;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    process.setProcessEnvironment(env);
+    process.start(QStringLiteral(LOOKANDFEEL_PROBE), arguments);
+    QMap<QString, QString> values;
+    if (!process.waitForFinished(60000) || process.exitCode() != 0)
+        return values;
+    const QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
+        const int equals = line.indexOf(QLatin1Char('='));
+        if (equals > 0)
+            values.insert(line.left(equals), line.mid(equals + 1));
+    }
+    return values;
+}
+
+// Acts on the next modal box as soon as it shows, like a person in front of the screen.
+void whenShown(const std::function<void(QMessageBox*)>& act)
+{
+    auto* timer = new QTimer;
+    QObject::connect(timer, &QTimer::timeout, [timer, act]() {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible())
+            return;
+        timer->stop();
+        timer->deleteLater();
+        act(box);
+    });
+    timer->start(10);
+}
+
+void tickAndClick(QMessageBox* box, QMessageBox::StandardButton button, bool tick)
+{
+    if (tick)
+        QTest::mouseClick(box->checkBox(), Qt::LeftButton);
+    QTest::mouseClick(box->button(button), Qt::LeftButton);
+}
+
+class FakeCustomization : public ICustomizationManager
+{
+public:
+    std::string GetApplicationName() const override { return "Probe Capture"; }
+    std::string GetVersion() const override { return "1.0.0.0"; }
+    std::string GetOrganizationName() const override { return "Probe Org"; }
+    std::string GetPartnerName() const override { return {}; }
+    std::string GetModuleName() const override { return "capture"; }
+    std::string GetBrand() const override { return "probe"; }
+    bool IsEmailCollectionEnabled() const override { return false; }
+    std::string GetPageType() const override { return {}; }
+    std::pair<std::string, std::string> GetUserAgent() const override { return {}; }
+    std::string GetPresentableName() const override { return "Probe Capture"; }
+    std::string GetInternalId() const override { return "probe"; }
+};
+
+} // namespace
+
+class DialogsTest : public QObject
+{
+    Q_OBJECT
+private:
+    QTemporaryDir m_dir;
+    QString m_file;
+    std::shared_ptr<ApplicationSettingsManager> m_settings;
+
+private slots:
+    void init()
+    {
+        m_file = m_dir.filePath(QStringLiteral("%1.ini").arg(QString::fromLatin1(QTest::currentTestFunction()) +
+                                                             QString::fromLatin1(QTest::currentDataTag())));
+        m_file.replace(QLatin1Char(' '), QLatin1Char('_'));
+        QFile::remove(m_file);
+        m_settings = std::make_shared<ApplicationSettingsManager>(m_file);
+    }
+
+    void confirmation_data()
+    {
+        QTest::addColumn<int>("clicked");
+        QTest::addColumn<bool>("tick");
+        QTest::addColumn<bool>("rememberOnReject");
+        QTest::addColumn<int>("rememberOnly");
+        QTest::addColumn<int>("forced");
+        QTest::addColumn<bool>("remembered");
+        QTest::addColumn<int>("storedAnswer");
+
+        const int yes = QMessageBox::Yes, no = QMessageBox::No, cancel = QMessageBox::Cancel;
+        QTest::newRow("ticked yes") << yes << true << false << 0 << -1 << true << yes;
+        QTest::newRow("ticked no (no role)") << no << true << false << 0 << -1 << true << no;
+        QTest::newRow("unticked yes") << yes << false << false << 0 << -1 << false << 0;
+        QTest::newRow("ticked cancel is not remembered") << cancel << true << false << 0 << -1 << false << 0;
+        QTest::newRow("ticked cancel with remember on reject") << cancel << true << true << 0 << -1 << true << cancel;
+        QTest::newRow("remember only yes, no clicked") << no << true << false << yes << -1 << false << 0;
+        QTest::newRow("remember only yes, yes clicked") << yes << true << false << yes << -1 << true << yes;
+        QTest::newRow("forced answer is stored") << yes << true << false << 0 << int(QMessageBox::Ok) << true
+                                                 << int(QMessageBox::Ok);
+    }
+
+    void confirmation()
+    {
+        QFETCH(int, clicked);
+        QFETCH(bool, tick);
+        QFETCH(bool, rememberOnReject);
+        QFETCH(int, rememberOnly);
+        QFETCH(int, forced);
+        QFETCH(bool, remembered);
+        QFETCH(int, storedAnswer);
+        {
+            ConfirmationAlertBox box(m_settings, Util::AlertBox::Question, QStringLiteral("Title"),
+                                     QStringLiteral("Continue?"), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+            box.SetConfirmationId(QStringLiteral("Question_1"));
+            QVERIFY(!box.IsDontConfirm());
+            QCOMPARE(box.checkBox()->objectName(), QStringLiteral("dontConfirmCheckBox"));
+            box.SetRememberOnReject(rememberOnReject);
+            box.SetRememberOnly(QMessageBox::StandardButtons(rememberOnly));
+            if (forced >= 0)
+                box.SetForceSaveAnswer(forced);
+            whenShown([&](QMessageBox* shown) { tickAndClick(shown, QMessageBox::StandardButton(clicked), tick); });
+            QCOMPARE(int(box.Exec()), clicked);
+        }
+        QCOMPARE(m_settings->GetBool("confirm/Question_1_dont_confirm", false), remembered);
+
+        const auto readBack = probe({QStringLiteral("confirm"), m_file, QStringLiteral("Question_1")});
+        QCOMPARE(readBack.value(QStringLiteral("shown")), remembered ? QStringLiteral("0") : QStringLiteral("1"));
+        if (remembered)
+            QCOMPARE(readBack.value(QStringLiteral("answer")).toInt(), storedAnswer);
+    }
+
+    void dontConfirmWithoutAnswerGivesNoButton()
+    {
+        ConfirmationAlertBox box(m_settings, Util::AlertBox::Question, QString(), QString(), QMessageBox::Ok);
+        QCOMPARE(box.GetConfirmationText(), QStringLiteral("Don't show this again"));
+        box.SetDontConfirm(true);
+        QCOMPARE(int(box.Exec()), int(QMessageBox::NoButton));
+        QVERIFY(!box.isVisible());
+    }
+
+    void noIdUsesEmptyKeys()
+    {
+        m_settings->SetBool("confirm/_dont_confirm", true);
+        m_settings->SetInt("confirm/_answer", QMessageBox::Ok);
+        ConfirmationAlertBox box(m_settings, Util::AlertBox::Question, QString(), QString(), QMessageBox::Ok);
+        QVERIFY(!box.IsDontConfirm()); // not tied to any state before SetConfirmationId
+        box.SetConfirmationId(QString());
+        QCOMPARE(int(box.Exec()), int(QMessageBox::Ok));
+    }
+
+    void resetAsksAgainAndKeepsTheOldAnswer()
+    {
+        m_settings->SetBool("confirm/Q_dont_confirm", true);
+        m_settings->SetInt("confirm/Q_answer", QMessageBox::Yes);
+        {
+            ConfirmationAlertBox box(m_settings, Util::AlertBox::Question, QString(), QString(),
+                                     QMessageBox::Yes | QMessageBox::No);
+            box.SetConfirmationId(QStringLiteral("Q"));
+            box.Reset();
+            QVERIFY(box.IsDontConfirm());
+        }
+        QCOMPARE(m_settings->GetInt("confirm/Q_answer", 0), int(QMessageBox::Yes));
+        QCOMPARE(probe({QStringLiteral("confirm"), m_file, QStringLiteral("Q")}).value(QStringLiteral("shown")),
+                 QStringLiteral("1"));
+
+        ConfirmationAlertBox box(m_settings, Util::AlertBox::Question, QString(), QString(),
+                                 QMessageBox::Yes | QMessageBox::No);
+        box.SetConfirmationId(QStringLiteral("Q"));
+        whenShown([](QMessageBox* shown) { tickAndClick(shown, QMessageBox::No, true); });
+        QCOMPARE(int(box.Exec()), int(QMessageBox::No));
+        QCOMPARE(m_settings->GetInt("confirm/Q_answer", 0), int(QMessageBox::No));
+    }
+
+    void customColoursSurviveTheProcess()
+    {
+        const auto first = probe({QStringLiteral("colors-load"), m_file});
+        QCOMPARE(first.value(QStringLiteral("count")).toInt(), QColorDialog::customCount());
+        const QString untouched = first.value(QStringLiteral("color1"));
+
+        QVERIFY(!probe({QStringLiteral("colors-save"), m_file, QStringLiteral("#102030"), QStringLiteral("#a0b0c0")}).isEmpty() ||
+                QFile::exists(m_file));
+        const auto second = probe({QStringLiteral("colors-load"), m_file});
+        QCOMPARE(second.value(QStringLiteral("color0")), QStringLiteral("#102030"));
+        QCOMPARE(second.value(QStringLiteral("color1")), QStringLiteral("#a0b0c0"));
+        QCOMPARE(second.value(QStringLiteral("color2")), first.value(QStringLiteral("color2")));
+        QVERIFY(untouched != QStringLiteral("#a0b0c0"));
+        const auto reread = std::make_shared<ApplicationSettingsManager>(m_file);
+        QCOMPARE(reread->GetInt("Ostrel::App::ColorDialogHelper/ColorsCount", 0), QColorDialog::customCount());
+
+        // An entry missing below the count reads as transparent's name.
+        reread->Remove("Ostrel::App::ColorDialogHelper/Color0");
+        QCOMPARE(probe({QStringLiteral("colors-load"), m_file}).value(QStringLiteral("color0")),
+                 QColor(Qt::transparent).name());
+    }
+
+    void statisticsQuestion_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<bool>("sendStatistics");
+        QTest::newRow("agree") << QStringLiteral("agree") << true;
+        QTest::newRow("disagree") << QStringLiteral("disagree") << false;
+        QTest::newRow("escape") << QStringLiteral("escape") << false;
+        QTest::newRow("close") << QStringLiteral("close") << false;
+    }
+
+    void statisticsQuestion()
+    {
+        QFETCH(QString, action);
+        QFETCH(bool, sendStatistics);
+        const auto customization = std::make_shared<FakeCustomization>();
+        QString text;
+        whenShown([&](QMessageBox* box) {
+            QCOMPARE(box->objectName(), QStringLiteral("requestAppStoreStatistics"));
+            QCOMPARE(box->defaultButton(), box->button(QMessageBox::Cancel));
+            text = box->text();
+            if (action == QLatin1String("agree"))
+                QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+            else if (action == QLatin1String("disagree"))
+                QTest::mouseClick(box->button(QMessageBox::Cancel), Qt::LeftButton);
+            else if (action == QLatin1String("escape"))
+                QTest::keyClick(box, Qt::Key_Escape);
+            else
+                box->close();
+        });
+        requestAppStoreStatistics(m_settings, customization);
+        QVERIFY(text.contains(QStringLiteral("Probe Capture")));
+        QCOMPARE(m_settings->GetBool("sendStatistics", !sendStatistics), sendStatistics);
+        QCOMPARE(m_settings->GetBool("is_first_show_appstore_statistic", true), false);
+
+        // Asked once: a second call shows nothing (a shown box would block this test until timeout).
+        requestAppStoreStatistics(m_settings, customization);
+    }
+
+    void statisticsNotAskedOfAnAgreedUser()
+    {
+        m_settings->SetBool("sendStatistics", true);
+        requestAppStoreStatistics(m_settings, std::make_shared<FakeCustomization>());
+        QVERIFY(!m_settings->Has("is_first_show_appstore_statistic"));
+    }
+
+    void driverMessages()
+    {
+        qApp->setProperty("linkStyle", QVariant());
+        const QString needSetup = GetGPUNeedSetupDriverMessage(QStringLiteral("u%1"), QStringLiteral("p"));
+        QVERIFY(needSetup.contains(QStringLiteral("<a href=\"u%1\" style=\"\">Detailed Instructions</a>")));
+        QVERIFY(needSetup.contains(QStringLiteral("acceleration for p, select")));
+
+        qApp->setProperty("linkStyle", QStringLiteral("color: #58e47b"));
+        QVERIFY(GetGPUUnsupportedDriverMessage(QStringLiteral("https://d/%2"))
+                    .endsWith(QStringLiteral("<a href=\"https://d/%2\" style=\"color: #58e47b\">Download Driver</a>")));
+        qApp->setProperty("linkStyle", QVariant());
+    }
+};
+
+int main(int argc, char** argv)
+{
+    Ostrel::Test::initTestEnvironment(argv[0]);
+    QApplication app(argc, argv);
+    DialogsTest test;
+    return Ostrel::Test::exec(&test, argc, argv);
+}
+#include "tst_dialogs.moc"

@@ -1,0 +1,403 @@
+// The theme half of the look-and-feel manager, on the tree the build generates and on broken
+// copies of it.
+
+#include "App/Application/LookAndFeelManager.h"
+#include "Interfaces/IQssPreprocessor.h"
+
+#include "LogCapture.h"
+#include "TestEnvironment.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QFile>
+#include <QPixmapCache>
+#include <QTemporaryDir>
+
+using namespace Ostrel;
+using namespace Ostrel::App;
+
+namespace {
+
+const QString kBuildRoot = QStringLiteral(OSTREL_BUILD_ROOT);
+const char* const kTitleFile = "theme.title";
+
+// Markers that stand once in each style file of the generated themes.
+const QString kBaseStyle = QStringLiteral("QMainWindow, QDialog, QMessageBox");
+const QString kBaseFonts = QStringLiteral("/* Font sizes;");
+const QString kControlsStyle = QStringLiteral("/* Menus and buttons");
+const QString kProductStyle = QStringLiteral("Ostrel--App--AboutBoxDialog {");
+
+class Recorder : public ILookAndFeelObserver
+{
+public:
+    QStringList events;
+    void OnLocaleChanged(const std::string& locale) override { events << QStringLiteral("locale:") + QString::fromStdString(locale); }
+    void OnThemeChanged(const std::string& theme) override { events << QStringLiteral("theme:") + QString::fromStdString(theme); }
+};
+
+class Upper : public IQssPreprocessor
+{
+public:
+    void Preprocess(QString& stylesheet) override { stylesheet = stylesheet.toUpper(); }
+};
+
+// The system's languages are the test's, not the machine's.
+class EnglishSystem : public LookAndFeelManager
+{
+public:
+    using LookAndFeelManager::LookAndFeelManager;
+
+protected:
+    QStringList GetSystemLanguages() const override { return {QStringLiteral("en-US")}; }
+};
+
+std::unique_ptr<LookAndFeelManager> realTree(const std::list<std::string>& baseNames = {})
+{
+    return std::make_unique<EnglishSystem>(Core::ioPath(kBuildRoot), kTitleFile, baseNames,
+                                                 std::list<std::string>());
+}
+
+QString sheet(LookAndFeelManager& manager)
+{
+    return QString::fromStdString(manager.GetUnitedStylesheet());
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+// A copy of the generated tree that a test may damage.
+void copyTree(const QString& from, const QString& to)
+{
+    QDir().mkpath(to);
+    const QFileInfoList entries = QDir(from).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QFileInfo& entry : entries) {
+        const QString target = to + QLatin1Char('/') + entry.fileName();
+        if (entry.isDir())
+            copyTree(entry.absoluteFilePath(), target);
+        else
+            QFile::copy(entry.absoluteFilePath(), target);
+    }
+}
+
+} // namespace
+
+class ThemesTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void discoversTheGeneratedTree()
+    {
+        const auto manager = realTree();
+        std::list<std::string> themes = manager->GetThemes();
+        themes.sort();
+        QCOMPARE(themes, (std::list<std::string>{"dark", "light"}));
+        QCOMPARE(manager->GetLocales().size(), size_t(14));
+    }
+
+    void styleFilesComeInResourceOrder_data()
+    {
+        QTest::addColumn<QStringList>("baseNames");
+        QTest::addColumn<QStringList>("markers");
+        QTest::newRow("base first") << QStringList{QStringLiteral("base"), QStringLiteral("controls")}
+                                    << QStringList{kBaseStyle, kBaseFonts, kControlsStyle, kProductStyle};
+        QTest::newRow("reversed, with a name that has no file")
+            << QStringList{QStringLiteral("controls"), QStringLiteral("missing"), QStringLiteral("base")}
+            << QStringList{kControlsStyle, kBaseStyle, kBaseFonts, kProductStyle};
+        QTest::newRow("controls only") << QStringList{QStringLiteral("controls")}
+                                       << QStringList{kControlsStyle, kProductStyle};
+    }
+
+    void styleFilesComeInResourceOrder()
+    {
+        QFETCH(QStringList, baseNames);
+        QFETCH(QStringList, markers);
+        std::list<std::string> names;
+        for (const QString& name : baseNames)
+            names.push_back(name.toStdString());
+        const auto manager = realTree(names);
+        manager->Initialize("en_US", "dark");
+        const QString text = sheet(*manager);
+        int last = -1;
+        for (const QString& marker : markers) {
+            const int at = text.indexOf(marker);
+            QVERIFY2(at > last, qPrintable(marker));
+            last = at;
+        }
+        if (!baseNames.contains(QStringLiteral("base")))
+            QVERIFY(!text.contains(kBaseStyle));
+        manager->SetTheme(std::string());
+    }
+
+    void macroBlocksOverrideInOrder_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QStringList>("expected");
+        // all_platforms/all_languages says 11pt and 22pt; the "win" section 10pt; its ru_RU block 20pt.
+        QTest::newRow("en_US") << QStringLiteral("en_US")
+                               << QStringList{QStringLiteral("font-size: 10pt;"), QStringLiteral("font-size: 22pt;"),
+                                              QStringLiteral("font-family: \"DejaVu Sans Condensed\"")};
+        QTest::newRow("ru_RU") << QStringLiteral("ru_RU")
+                               << QStringList{QStringLiteral("font-size: 10pt;"), QStringLiteral("font-size: 20pt;")};
+        QTest::newRow("ja_JP language block") << QStringLiteral("ja_JP")
+                                              << QStringList{QStringLiteral("font-family: \"DejaVu Sans\"")};
+    }
+
+    void macroBlocksOverrideInOrder()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QStringList, expected);
+        const auto manager = realTree({"base", "controls"});
+        manager->Initialize(locale.toStdString(), "dark");
+        const QString text = sheet(*manager);
+        for (const QString& piece : expected)
+            QVERIFY2(text.contains(piece), qPrintable(piece));
+        // Every macro of the theme is defined; the "@" left is the product's "about-top@2x.png".
+        QCOMPARE(text.count(QRegularExpression(QStringLiteral("@[A-Za-z]"))), 0);
+        // The second part's macros reach the first part's rules and the other way round.
+        QVERIFY(text.contains(QStringLiteral("border: 1px solid #3a3e47")));
+        // Qt parses it without complaint (a complaint is a warning, which fails the test).
+        QWidget widget;
+        widget.setStyleSheet(text);
+        widget.ensurePolished();
+        manager->SetTheme(std::string());
+    }
+
+    void switchingThemesSwapsResources()
+    {
+        const auto manager = realTree({"base", "controls"});
+        Recorder recorder;
+        manager->RegisterObserver(&recorder);
+        manager->Initialize("en_US", "dark");
+        QVERIFY(QFile::exists(QStringLiteral(":/base/fonts.json")));
+        QVERIFY(sheet(*manager).contains(QStringLiteral("#1d1f24")));
+
+        manager->SetTheme("light");
+        QVERIFY(sheet(*manager).contains(QStringLiteral("#f6f7f9")));
+        QVERIFY(!sheet(*manager).contains(QStringLiteral("#1d1f24")));
+
+        QCOMPARE(recorder.events, (QStringList{QStringLiteral("locale:en_US"), QStringLiteral("theme:dark"),
+                                               QStringLiteral("theme:light")}));
+
+        // The empty theme unregisters, tells nobody and keeps the last text.
+        const QString before = sheet(*manager);
+        QPixmapCache::insert(QStringLiteral("probe"), QPixmap(4, 4));
+        manager->SetTheme(std::string());
+        QVERIFY(manager->GetCurrentTheme().empty());
+        QVERIFY(!QFile::exists(QStringLiteral(":/base/fonts.json")));
+        QPixmap cached;
+        QVERIFY(!QPixmapCache::find(QStringLiteral("probe"), &cached));
+        QCOMPARE(sheet(*manager), before);
+        QCOMPARE(recorder.events.size(), 3);
+        manager->UnregisterObserver(&recorder);
+    }
+
+    void unknownThemeComposesOnlyTheProductFiles()
+    {
+        Test::LogCapture log;
+        const auto manager = realTree();
+        Recorder recorder;
+        manager->RegisterObserver(&recorder);
+        manager->Initialize("en_US", "nosuch");
+        QCOMPARE(manager->GetCurrentTheme(), std::string("nosuch"));
+        QCOMPARE(log.matching("doesn't exist!").size(), size_t(1));
+        QVERIFY(log.matching("doesn't exist!").front().find("/resources/themes/nosuch]") != std::string::npos);
+        QFile product(QStringLiteral(":/productStyle.qss"));
+        QVERIFY(product.open(QIODevice::ReadOnly));
+        QCOMPARE(sheet(*manager), QString::fromUtf8(product.readAll()) + QStringLiteral("\n\n"));
+        QCOMPARE(recorder.events.last(), QStringLiteral("theme:nosuch"));
+        manager->UnregisterObserver(&recorder);
+    }
+
+    void localizedTitles_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("de_DE") << QStringLiteral("de_DE") << QStringLiteral("Dunkel");
+        QTest::newRow("ru_RU") << QStringLiteral("ru_RU") << QStringLiteral("Тёмная");
+        QTest::newRow("zh_TW") << QStringLiteral("zh_TW") << QStringLiteral("深色");
+    }
+
+    void localizedTitles()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, title);
+        const auto manager = realTree();
+        manager->SetLocale(locale.toStdString());
+        QCOMPARE(QString::fromStdString(manager->GetLocalizedThemeName("dark")), title);
+    }
+
+    void theProductStyleIsShipped()
+    {
+        QFile product(QStringLiteral(":/productStyle.qss"));
+        QVERIFY(product.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(product.readAll());
+        for (const char* piece : {"#121316", "#58e47b", "#b4bad0", "#applicationVersionLabel", "#copyrightLabel",
+                                  "#rightsLabel", "#topPlaceHolder", "#bottomPlaceHolder"})
+            QVERIFY2(text.contains(QLatin1String(piece)), piece);
+        QVERIFY(!QPixmap(QStringLiteral(":/About/about-top@2x.png")).isNull());
+    }
+
+    // Composition from plain files: the macro rules without a theme around them.
+    void applyThemeComposition_data()
+    {
+        QTest::addColumn<QByteArray>("macros");
+        QTest::addColumn<QByteArray>("style");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("undefined macro stays") << QByteArray(R"({"all_platforms":{"all_languages":{"a":"1"}}})")
+                                               << QByteArray("x: @a @missing;") << QStringLiteral("x: 1 @missing;\n");
+        QTest::newRow("prefix macro replaces inside the longer one")
+            << QByteArray(R"({"all_platforms":{"all_languages":{"A":"red","AB":"blue"}}})") << QByteArray("c: @AB;")
+            << QStringLiteral("c: redB;\n");
+        QTest::newRow("platform section beats all_platforms")
+            << QByteArray(R"({"win":{"all_languages":{"a":"win"}},"all_platforms":{"all_languages":{"a":"all"}}})")
+            << QByteArray("@a") << QStringLiteral("win\n");
+        QTest::newRow("language block beats all_languages")
+            << QByteArray(R"({"all_platforms":{"de_DE":{"a":"de"},"all_languages":{"a":"all"}}})") << QByteArray("@a")
+            << QStringLiteral("de\n");
+        QTest::newRow("other language block is ignored")
+            << QByteArray(R"({"all_platforms":{"ru_RU":{"a":"ru"},"all_languages":{"a":"all"}}})") << QByteArray("@a")
+            << QStringLiteral("all\n");
+        QTest::newRow("numbers and booleans become text")
+            << QByteArray(R"({"all_platforms":{"all_languages":{"n":12,"b":true}}})") << QByteArray("@n @b")
+            << QStringLiteral("12 true\n");
+        QTest::newRow("macro file not JSON") << QByteArray("{ not json") << QByteArray("@a") << QStringLiteral("@a\n");
+        QTest::newRow("JSON but not an object") << QByteArray("[1,2]") << QByteArray("@a") << QStringLiteral("@a\n");
+    }
+
+    void applyThemeComposition()
+    {
+        QFETCH(QByteArray, macros);
+        QFETCH(QByteArray, style);
+        QFETCH(QString, expected);
+        QTemporaryDir dir;
+        writeFile(dir.filePath(QStringLiteral("fonts.json")), macros);
+        writeFile(dir.filePath(QStringLiteral("style.qss")), style);
+        const auto manager = realTree();
+        manager->SetLocale("de_DE");
+        ILookAndFeelManager::ThemeDescription description;
+        description.macroFiles = {dir.filePath(QStringLiteral("fonts.json")).toStdString()};
+        description.styleFiles = {dir.filePath(QStringLiteral("style.qss")).toStdString()};
+        manager->ApplyTheme(description);
+        QCOMPARE(sheet(*manager), expected);
+    }
+
+    void laterMacroFileWinsAndMissingFilesAreSoft()
+    {
+        QTemporaryDir dir;
+        writeFile(dir.filePath(QStringLiteral("1.json")), R"({"all_platforms":{"all_languages":{"a":"first","b":"kept"}}})");
+        writeFile(dir.filePath(QStringLiteral("2.json")), R"({"all_platforms":{"all_languages":{"a":"second"}}})");
+        writeFile(dir.filePath(QStringLiteral("s.qss")), "@a @b");
+        const auto manager = realTree();
+        ILookAndFeelManager::ThemeDescription description;
+        description.macroFiles = {dir.filePath(QStringLiteral("1.json")).toStdString(), "/nonexistent/fonts.json",
+                                  dir.filePath(QStringLiteral("2.json")).toStdString()};
+        description.styleFiles = {"/nonexistent/a.qss", dir.filePath(QStringLiteral("s.qss")).toStdString(),
+                                  "/nonexistent/b.qss"};
+        description.fontManifestFiles = {"/nonexistent/fonts.manifest"};
+        manager->ApplyTheme(description);
+        QCOMPARE(sheet(*manager), QStringLiteral("\nsecond kept\n\n"));
+    }
+
+    void preprocessorActsAtTheNextTheme()
+    {
+        const auto manager = realTree();
+        manager->Initialize("en_US", "light");
+        const QString before = sheet(*manager);
+        manager->SetQssPreprocessor(std::make_shared<Upper>());
+        manager->SetTheme(std::string());
+        QCOMPARE(sheet(*manager), before);
+        manager->SetTheme("light");
+        QCOMPARE(sheet(*manager), before.toUpper());
+        manager->SetTheme(std::string());
+    }
+
+    void brokenTrees()
+    {
+        QTemporaryDir dir;
+        const QString root = dir.path();
+        const QString themes = root + QStringLiteral("/resources/themes");
+        copyTree(kBuildRoot + QStringLiteral("/resources/themes/dark"), themes + QStringLiteral("/dark"));
+        copyTree(kBuildRoot + QStringLiteral("/resources/themes/light"), themes + QStringLiteral("/light"));
+        // No title file: the theme does not exist.
+        writeFile(themes + QStringLiteral("/untitled/base.rcc"), "whatever");
+        // A title file in a broken syntax: the lines before the damage still count.
+        writeFile(themes + QStringLiteral("/broken/theme.title"), "en_US = Broken\nde_DE \"Kaputt\nru_RU = Сломанная\n");
+        writeFile(themes + QStringLiteral("/broken/base.rcc"), "this is not a resource file");
+        // A dotted name is listed under the part before the dot, and its title looked for there.
+        writeFile(themes + QStringLiteral("/dotted.v2/theme.title"), "en_US = Dotted\n");
+        writeFile(themes + QStringLiteral("/light.old/theme.title"), "en_US = Old\n");
+        QDir().mkpath(root + QStringLiteral("/resources/locales/ru_RU"));
+
+        Test::LogCapture log;
+        EnglishSystem manager(Core::ioPath(root), kTitleFile, {}, {});
+        std::list<std::string> listed = manager.GetThemes();
+        listed.sort();
+        QCOMPARE(listed, (std::list<std::string>{"broken", "dark", "light", "light"}));
+        QCOMPARE(manager.GetLocales(), (std::list<std::string>{"ru_RU"}));
+
+        manager.SetLocale("en_US"); // not installed, but the fallback when the system matches nothing
+        QCOMPARE(manager.GetLocalizedThemeName("broken"), std::string("Broken"));
+        manager.SetLocale("ru_RU");
+        log.clear();
+        QCOMPARE(manager.GetLocalizedThemeName("broken"), std::string("broken"));
+        QCOMPARE(log.matching("No title found for theme [broken] on language [ru_RU]!").size(), size_t(1));
+
+        // An ".rcc" that isn't one: nothing registers, the product's files still compose.
+        manager.SetTheme("broken");
+        QVERIFY(sheet(manager).startsWith(QStringLiteral("\n\n")));
+        QVERIFY(sheet(manager).contains(kProductStyle));
+
+        // The folder of a listed theme vanished.
+        QVERIFY(QDir(themes + QStringLiteral("/dark")).removeRecursively());
+        log.clear();
+        manager.SetTheme("dark");
+        QCOMPARE(log.matching("doesn't exist!").size(), size_t(1));
+        QVERIFY(sheet(manager).endsWith(QStringLiteral("}\n\n\n")));
+        QVERIFY(!sheet(manager).contains(kBaseStyle));
+        manager.SetTheme(std::string());
+    }
+
+    void noResourcesFolderAtAll()
+    {
+        QTemporaryDir dir;
+        LookAndFeelManager manager(Core::ioPath(dir.path()), kTitleFile, {}, {});
+        QVERIFY(manager.GetThemes().empty());
+        QVERIFY(manager.GetLocales().empty());
+        manager.SetTheme("dark");
+        QVERIFY(sheet(manager).contains(kProductStyle));
+        manager.SetTheme(std::string());
+    }
+
+    // Last on purpose: the second registration outlives the manager (see below).
+    void themeSetTwice()
+    {
+        const auto manager = realTree({"base", "controls"});
+        Recorder recorder;
+        manager->RegisterObserver(&recorder);
+        manager->Initialize("en_US", "light");
+        const QString first = sheet(*manager);
+        manager->SetTheme("light");
+        QCOMPARE(sheet(*manager), first);
+        QCOMPARE(recorder.events, (QStringList{QStringLiteral("locale:en_US"), QStringLiteral("theme:light"),
+                                               QStringLiteral("theme:light")}));
+        // Registered twice, unregistered once: the resources stay. Hosts that want to recompose
+        // for a new locale clear the theme first rather than setting it again.
+        manager->SetTheme(std::string());
+        QVERIFY(QFile::exists(QStringLiteral(":/base/fonts.json")));
+        manager->UnregisterObserver(&recorder);
+    }
+};
+
+int main(int argc, char** argv)
+{
+    Ostrel::Test::initTestEnvironment(argv[0]);
+    QApplication app(argc, argv);
+    ThemesTest test;
+    return Ostrel::Test::exec(&test, argc, argv);
+}
+#include "tst_themes.moc"

@@ -1,0 +1,31 @@
+#include "HelpMenu.h"
+
+#include "App/Application/Application.h"
+#include "Interfaces/ILinksManager.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QMenuBar>
+
+using namespace Ostrel::App;
+
+void addHelpMenu(QMenuBar& menuBar, Application& application)
+{
+    QMenu* menu = menuBar.addMenu(QCoreApplication::translate("HelpMenu", "&Help"));
+    menu->setObjectName(QStringLiteral("helpMenu"));
+    const auto add = [&](const char* text, URLKeys key) {
+        QAction* action = menu->addAction(QCoreApplication::translate("HelpMenu", text));
+        action->setObjectName(QString::fromStdString(UrlKeyNames().at(key)));
+        // The manager is asked at the click: the host may replace it at any time.
+        QObject::connect(action, &QAction::triggered, menu,
+                         [&application, key]() { application.GetLinksManager()->OpenUrl(key); });
+    };
+    add("&Help Center", HELP_URL_menu);
+    add("&Frequently Asked Questions", FAQ_URL_menu);
+    add("&Contact Support", CONTACT_SUPPORT_URL_menu);
+    menu->addSeparator();
+    add("Community &Forum", FORUM_URL_menu);
+    add("&Home Page", HOMEPAGE_URL_menu);
+    add("&Privacy Policy", PRIVACY_POLICY_URL);
+}

@@ -1,0 +1,182 @@
+#include "LookAndFeelWiring.h"
+
+#include "App/Application/AppStoreStatistics.h"
+#include "App/Application/Application.h"
+#include "App/Application/ColorDialogHelper.h"
+#include "App/Application/LookAndFeelHandler.h"
+#include "App/Application/LookAndFeelManager.h"
+#include "Interfaces/IApplicationSettingsManager.h"
+#include "Interfaces/ICustomizationManager.h"
+#include "Interfaces/ILifetimeManager.h"
+#include "QtUtil/Utf8.h"
+
+#include <glog/logging.h>
+
+#include <QAction>
+#include <QColorDialog>
+#include <QDir>
+#include <QEvent>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace Ostrel;
+using namespace Ostrel::App;
+
+namespace {
+
+// Where the chosen locale and theme persist, in the application settings.
+const char* const kLocaleKey = "LookAndFeel/Locale";
+const char* const kThemeKey = "LookAndFeel/Theme";
+const char* const kPreferredTheme = "dark";
+const char* const kTitleFile = "theme.title";
+
+QString resourceRoot()
+{
+    const QString beside = QCoreApplication::applicationDirPath();
+    if (QDir(beside + QStringLiteral("/resources")).exists())
+        return beside;
+    const QString above = QDir::cleanPath(beside + QStringLiteral("/.."));
+    if (QDir(above + QStringLiteral("/resources")).exists())
+        return above;
+    LOG(WARNING) << "No \"resources\" folder beside " << Util::QStringToUtf8(beside)
+                 << " or above it: no themes and no translations";
+    return beside;
+}
+
+// The link colour of the driver messages follows the theme.
+QString linkStyleFor(const std::string& theme)
+{
+    return theme == "light" ? QStringLiteral("color: #1f7a44;") : QStringLiteral("color: #58e47b;");
+}
+
+} // namespace
+
+struct LookAndFeelWiring::Impl
+{
+    Application& application;
+    QMainWindow& window;
+    std::shared_ptr<LookAndFeelManager> manager;
+    std::shared_ptr<IApplicationSettingsManager> settings;
+    std::unique_ptr<ColorDialogHelper> colors;
+    LookAndFeelHandler* handler = nullptr;
+    QMenu* localeMenu = nullptr;
+    QMenu* themeMenu = nullptr;
+    QMenu* optionsMenu = nullptr;
+    QAction* colorsAction = nullptr;
+    QAction* resetAction = nullptr;
+};
+
+LookAndFeelWiring::LookAndFeelWiring(Application& application, QMainWindow& window)
+    : QObject(&window)
+    , m_impl(std::make_unique<Impl>(Impl{application, window, {}, {}, {}, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr}))
+{
+    Impl& d = *m_impl;
+    d.settings = application.get<IApplicationSettingsManager>();
+    d.manager = std::make_shared<LookAndFeelManager>(Core::ioPath(resourceRoot()), kTitleFile,
+                                                     std::list<std::string>{"base", "controls", "ostrel"},
+                                                     std::list<std::string>());
+    application.SetLookAndFeel(d.manager);
+    if (d.settings)
+        d.colors = std::make_unique<ColorDialogHelper>(d.settings);
+
+    d.localeMenu = window.menuBar()->addMenu(QString());
+    d.localeMenu->setObjectName(QStringLiteral("languageMenu"));
+    d.themeMenu = window.menuBar()->addMenu(QString());
+    d.themeMenu->setObjectName(QStringLiteral("themeMenu"));
+    d.optionsMenu = window.menuBar()->addMenu(QString());
+    d.optionsMenu->setObjectName(QStringLiteral("optionsMenu"));
+    d.colorsAction = d.optionsMenu->addAction(QString());
+    connect(d.colorsAction, &QAction::triggered, this, [this]() { QColorDialog::getColor(Qt::white, &m_impl->window); });
+    d.resetAction = d.optionsMenu->addAction(QString());
+    d.resetAction->setObjectName(QStringLiteral("resetConfirmationsAction"));
+    connect(d.resetAction, &QAction::triggered, this, [this]() {
+        // Every remembered answer lives below "confirm/": all boxes ask again.
+        if (m_impl->settings)
+            m_impl->settings->RemoveGroup("confirm");
+        m_impl->window.statusBar()->showMessage(tr("Remembered answers were reset."), 5000);
+    });
+
+    d.handler = new LookAndFeelHandler(d.manager, d.localeMenu, d.themeMenu, this);
+    connect(d.handler, &LookAndFeelHandler::LocaleChanged, this, [this](const std::string& locale) {
+        if (m_impl->settings)
+            m_impl->settings->SetString(kLocaleKey, locale);
+        // The theme's macros may differ by language: compose again. Through the empty theme, since
+        // setting the current one again would register its resources a second time.
+        const std::string theme = m_impl->manager->GetCurrentTheme();
+        m_impl->manager->SetTheme(std::string());
+        m_impl->manager->SetTheme(theme);
+    });
+    connect(d.handler, &LookAndFeelHandler::ThemeChanged, this, [this](const std::string& theme) {
+        if (m_impl->settings)
+            m_impl->settings->SetString(kThemeKey, theme);
+    });
+
+    const std::string storedLocale = d.settings ? d.settings->GetString(kLocaleKey, std::string()) : std::string();
+    std::string theme = d.settings ? d.settings->GetString(kThemeKey, kPreferredTheme) : kPreferredTheme;
+    const auto& themes = d.manager->GetThemes();
+    if (std::find(themes.begin(), themes.end(), theme) == themes.end())
+        theme = themes.empty() ? std::string() : themes.front();
+    d.manager->Initialize(storedLocale, theme);
+
+    std::list<std::string> sortedThemes = themes;
+    sortedThemes.sort();
+    std::list<std::string> sortedLocales = d.manager->GetLocales();
+    sortedLocales.sort();
+    d.handler->SetLocaleList(sortedLocales);
+    d.handler->SetThemeList(sortedThemes);
+    d.handler->SelectLocale(d.manager->GetCurrentLocale());
+    d.handler->SelectTheme(d.manager->GetCurrentTheme());
+    d.handler->Refresh();
+
+    applyTheme();
+    retranslate();
+    window.installEventFilter(this);
+    if (const auto lifetime = application.get<ILifetimeManager>())
+        lifetime->RegisterEventHandler(this);
+    // The stylesheet follows every theme change, whoever makes it.
+    connect(d.handler, &LookAndFeelHandler::ThemeChanged, this, &LookAndFeelWiring::applyTheme);
+    connect(d.handler, &LookAndFeelHandler::LocaleChanged, this, &LookAndFeelWiring::applyTheme);
+}
+
+LookAndFeelWiring::~LookAndFeelWiring()
+{
+    if (const auto lifetime = m_impl->application.get<ILifetimeManager>())
+        lifetime->UnregisterEventHandler(this);
+    // Saves the custom colours while the settings can still be written.
+    m_impl->colors.reset();
+}
+
+void LookAndFeelWiring::onStart()
+{
+    // Through the event loop, so that the main window is painted behind the question.
+    QTimer::singleShot(0, this, [this]() {
+        requestAppStoreStatistics(m_impl->settings, m_impl->application.GetCustomizationManager());
+    });
+}
+
+void LookAndFeelWiring::applyTheme()
+{
+    qApp->setProperty("linkStyle", linkStyleFor(m_impl->manager->GetCurrentTheme()));
+    qApp->setStyleSheet(Util::Utf8ToQString(m_impl->manager->GetUnitedStylesheet()));
+}
+
+void LookAndFeelWiring::retranslate()
+{
+    Impl& d = *m_impl;
+    d.localeMenu->setTitle(tr("&Language"));
+    d.themeMenu->setTitle(tr("&Theme"));
+    d.optionsMenu->setTitle(tr("&Options"));
+    d.colorsAction->setText(tr("Custom colours..."));
+    d.resetAction->setText(tr("Reset remembered answers"));
+}
+
+bool LookAndFeelWiring::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == &m_impl->window && event->type() == QEvent::LanguageChange)
+        retranslate();
+    return QObject::eventFilter(watched, event);
+}

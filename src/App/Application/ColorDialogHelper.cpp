@@ -1,0 +1,70 @@
+#include "App/Application/ColorDialogHelper.h"
+
+#include "Interfaces/IApplicationSettingsManager.h"
+#include "QtUtil/Utf8.h"
+
+#include <QColor>
+#include <QColorDialog>
+
+#include <string>
+
+namespace Ostrel::App {
+
+namespace {
+
+const char* const kGroup = "Ostrel::App::ColorDialogHelper";
+
+std::string countKey()
+{
+    return std::string(kGroup) + "/ColorsCount";
+}
+
+std::string colorKey(int index)
+{
+    return std::string(kGroup) + "/Color" + std::to_string(index);
+}
+
+} // namespace
+
+struct ColorDialogHelper::Impl
+{
+    std::shared_ptr<IApplicationSettingsManager> settings;
+};
+
+ColorDialogHelper::ColorDialogHelper(const std::shared_ptr<IApplicationSettingsManager>& settings)
+    : m_impl(std::make_unique<Impl>(Impl{settings}))
+{
+    if (!settings)
+        return;
+    const int count = settings->GetInt(countKey(), 0);
+    if (count < 1)
+        return;
+    const std::string transparent = Util::QStringToUtf8(QColor(Qt::transparent).name());
+    for (int i = 0; i < count; ++i)
+        QColorDialog::setCustomColor(i, QColor(Util::Utf8ToQString(settings->GetString(colorKey(i), transparent))));
+}
+
+ColorDialogHelper::ColorDialogHelper(const ColorDialogHelper& other)
+    : m_impl(std::make_unique<Impl>(*other.m_impl))
+{
+}
+
+ColorDialogHelper& ColorDialogHelper::operator=(const ColorDialogHelper& other)
+{
+    *m_impl = *other.m_impl;
+    return *this;
+}
+
+ColorDialogHelper::~ColorDialogHelper()
+{
+    const auto& settings = m_impl->settings;
+    if (!settings)
+        return;
+    settings->RemoveGroup(kGroup);
+    const int count = QColorDialog::customCount();
+    settings->SetInt(countKey(), count);
+    for (int i = 0; i < count; ++i)
+        settings->SetString(colorKey(i), Util::QStringToUtf8(QColorDialog::customColor(i).name()));
+}
+
+} // namespace Ostrel::App

@@ -1,0 +1,394 @@
+#include "App/Application/LookAndFeelManager.h"
+
+#include "Events/EventHandlerList.h"
+#include "Events/SyncExecutePolicy.h"
+#include "Foundation/DataInputString.h"
+#include "Foundation/Property.h"
+#include "Foundation/PropertySerializer.h"
+#include "Interfaces/IQssPreprocessor.h"
+#include "QtUtil/FontDatabase.h"
+#include "QtUtil/Utf8.h"
+
+#include <glog/logging.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+#include <QPixmapCache>
+#include <QResource>
+#include <QTextStream>
+#include <QTranslator>
+#include <QVariantMap>
+
+#include <map>
+
+namespace Ostrel::App {
+
+using Util::QStringToUtf8;
+using Util::Utf8ToQString;
+
+namespace {
+
+// The one platform token of file names and JSON sections; builds for other systems share it.
+const char* const kPlatform = "win";
+const char* const kUnknownLocale = "unknown";
+const char* const kFallbackLocale = "en_US";
+
+QString platformToken()
+{
+    return QString::fromLatin1(kPlatform);
+}
+
+std::list<std::string> subdirectoryNames(const QString& directory)
+{
+    std::list<std::string> names;
+    const QFileInfoList entries = QDir(directory).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::NoSort);
+    for (const QFileInfo& entry : entries)
+        names.push_back(QStringToUtf8(entry.baseName()));
+    return names;
+}
+
+} // namespace
+
+struct LookAndFeelManager::Impl
+{
+    Core::ioPath m_path;
+    std::list<std::string> m_resourceBaseNames;
+    std::list<std::string> m_locales;
+    std::string m_currentLocale;
+    std::list<std::string> m_themes;
+    std::string m_currentTheme;
+    std::map<std::string, Core::Property> m_themeTitles;
+    QString m_unitedStylesheet;
+    std::list<std::shared_ptr<QTranslator>> m_translators;
+    Core::EventHandlerList<ILookAndFeelObserver, Core::SyncExecutePolicy> m_observers;
+    std::shared_ptr<IQssPreprocessor> m_qssPreprocessor;
+
+    QString resourcesDir() const { return (m_path / Core::ioPath("resources")).toQString(); }
+    QString themeDir(const std::string& theme) const
+    {
+        return resourcesDir() + QStringLiteral("/themes/") + Utf8ToQString(theme);
+    }
+
+    QString titleFile(const std::string& theme, const std::string& titleFileName) const
+    {
+        return themeDir(theme) + QLatin1Char('/') + Utf8ToQString(titleFileName);
+    }
+
+    QList<QFileInfo> GetFilteredResourceList() const
+    {
+        const QString directory = themeDir(m_currentTheme);
+        QDir dir(directory);
+        if (!dir.exists()) {
+            LOG(ERROR) << "The directory [" << QStringToUtf8(directory) << "] doesn't exist!";
+            return {};
+        }
+        if (m_resourceBaseNames.empty())
+            return dir.entryInfoList({QStringLiteral("*.rcc")}, QDir::Files, QDir::NoSort);
+        QList<QFileInfo> result;
+        for (const std::string& name : m_resourceBaseNames) {
+            const QFileInfo file(dir, Utf8ToQString(name) + QStringLiteral(".rcc"));
+            if (file.exists())
+                result.append(file);
+        }
+        return result;
+    }
+
+    void ClearCurrentTheme()
+    {
+        if (!m_currentTheme.empty()) {
+            const QList<QFileInfo> resources = GetFilteredResourceList();
+            for (const QFileInfo& file : resources) {
+                if (file.isFile())
+                    QResource::unregisterResource(file.absoluteFilePath(), QString());
+            }
+            m_currentTheme.clear();
+        }
+        QPixmapCache::clear();
+    }
+
+    QFileInfoList translationFiles() const
+    {
+        const QDir dir(resourcesDir() + QStringLiteral("/locales/") + Utf8ToQString(m_currentLocale));
+        if (m_resourceBaseNames.empty())
+            return dir.entryInfoList({QStringLiteral("*.qm")}, QDir::Files, QDir::NoSort);
+        QFileInfoList result;
+        for (const std::string& name : m_resourceBaseNames) {
+            const QFileInfo file(dir, Utf8ToQString(name + "_" + m_currentLocale + ".qm"));
+            if (file.exists())
+                result.append(file);
+        }
+        return result;
+    }
+
+    void mergeMacros(const QVariantMap& root, const QString& section, const QString& block,
+                     std::map<QString, QString>* macros) const
+    {
+        const auto sectionIt = root.find(section);
+        if (sectionIt == root.end())
+            return;
+        const QVariantMap blocks = sectionIt->toMap();
+        const auto blockIt = blocks.find(block);
+        if (blockIt == blocks.end())
+            return;
+        const QVariantMap values = blockIt->toMap();
+        for (auto it = values.cbegin(); it != values.cend(); ++it)
+            (*macros)[QLatin1Char('@') + it.key()] = it.value().toString();
+    }
+};
+
+LookAndFeelManager::LookAndFeelManager(const Core::ioPath& path, const std::string& themeTitleFileName,
+                                       const std::list<std::string>& resourceBaseNames,
+                                       const std::list<std::string>& /*unused*/)
+    : m_impl(std::make_unique<Impl>())
+{
+    Impl& d = *m_impl;
+    d.m_path = path;
+    d.m_resourceBaseNames = resourceBaseNames;
+
+    const QString root = d.resourcesDir();
+    const QFileInfoList entries = QDir(root).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::NoSort);
+    for (const QFileInfo& entry : entries) {
+        if (!entry.isDir())
+            continue;
+        const QString base = entry.baseName();
+        if (base == QLatin1String("locales")) {
+            d.m_locales = subdirectoryNames(entry.absoluteFilePath());
+        } else if (base == QLatin1String("themes")) {
+            for (const std::string& theme : subdirectoryNames(entry.absoluteFilePath())) {
+                QFile title(d.titleFile(theme, themeTitleFileName));
+                if (title.open(QIODevice::ReadOnly | QIODevice::Text))
+                    d.m_themes.push_back(theme);
+            }
+        }
+    }
+
+    for (const std::string& theme : d.m_themes) {
+        QFile title(d.titleFile(theme, themeTitleFileName));
+        // A title file that vanished since the listing leaves the theme without a record; its
+        // menu entry then shows the folder name.
+        if (!title.open(QIODevice::ReadOnly | QIODevice::Text))
+            continue;
+        const QByteArray bytes = title.readAll();
+        Core::Property property;
+        if (!Core::PropertySerializer::Deserialize(
+                property, Core::DataInputString::Create(std::string(bytes.constData(), size_t(bytes.size()))), true))
+            LOG(WARNING) << "The title file of theme [" << theme << "] is damaged; using what could be read";
+        d.m_themeTitles[theme] = std::move(property);
+    }
+}
+
+LookAndFeelManager::~LookAndFeelManager() = default;
+
+void LookAndFeelManager::Initialize(const std::string& locale, const std::string& theme)
+{
+    SetLocale(locale);
+    SetTheme(theme);
+}
+
+const std::string& LookAndFeelManager::GetCurrentLocale() const
+{
+    return m_impl->m_currentLocale;
+}
+
+const std::list<std::string>& LookAndFeelManager::GetLocales() const
+{
+    return m_impl->m_locales;
+}
+
+const std::list<std::string>& LookAndFeelManager::GetThemes() const
+{
+    return m_impl->m_themes;
+}
+
+QStringList LookAndFeelManager::GetSystemLanguages() const
+{
+    return QLocale().uiLanguages();
+}
+
+std::string LookAndFeelManager::ValidateLocale(const std::string& requested) const
+{
+    const auto& locales = m_impl->m_locales;
+    if (!requested.empty() && requested != kUnknownLocale &&
+        std::find(locales.begin(), locales.end(), requested) != locales.end())
+        return requested;
+
+    std::list<std::string> candidates;
+    for (const QString& language : GetSystemLanguages()) {
+        std::string candidate = QStringToUtf8(QLocale(language).name());
+        // Every Portuguese counts as the Brazilian one, every Chinese but the mainland's as the
+        // traditional one; "zh_CN" must be tested before "zh".
+        if (candidate.rfind("pt", 0) == 0)
+            candidate = "pt_BR";
+        else if (candidate.rfind("zh_CN", 0) == 0)
+            candidate = "zh_CN";
+        else if (candidate.rfind("zh", 0) == 0)
+            candidate = "zh_TW";
+        candidates.push_back(candidate);
+    }
+
+    std::string result = GetDefaultLocale();
+    if (result.empty() || result == kUnknownLocale)
+        result = kFallbackLocale;
+
+    for (const std::string& candidate : candidates) {
+        for (const std::string& installed : locales) {
+            if (installed.rfind(candidate, 0) == 0)
+                return installed;
+        }
+    }
+    return result;
+}
+
+void LookAndFeelManager::SetLocale(const std::string& locale)
+{
+    Impl& d = *m_impl;
+    const std::string validated = ValidateLocale(locale);
+    if (validated == d.m_currentLocale)
+        return;
+    d.m_currentLocale = validated;
+
+    for (const auto& translator : d.m_translators)
+        QCoreApplication::removeTranslator(translator.get());
+    d.m_translators.clear();
+
+    for (const QFileInfo& file : d.translationFiles()) {
+        if (!file.isFile())
+            continue;
+        auto translator = std::make_shared<QTranslator>();
+        if (translator->load(file.absoluteFilePath(), QString(), QString(), QString())) {
+            QCoreApplication::installTranslator(translator.get());
+            d.m_translators.push_back(translator);
+        }
+    }
+
+    d.m_observers.Notify(&ILookAndFeelObserver::OnLocaleChanged, d.m_currentLocale);
+}
+
+void LookAndFeelManager::SetTheme(const std::string& theme)
+{
+    Impl& d = *m_impl;
+    // No early return for the current name: setting it again re-registers, recomposes and
+    // notifies, which is how a host picks up a new locale's macros.
+    if (theme != d.m_currentTheme)
+        d.ClearCurrentTheme();
+    if (theme.empty())
+        return;
+    d.m_currentTheme = theme;
+
+    ThemeDescription description;
+    const QString platform = platformToken();
+    for (const QFileInfo& file : d.GetFilteredResourceList()) {
+        if (!file.isFile())
+            continue;
+        QResource::registerResource(file.absoluteFilePath(), QString());
+        const QString prefix = QStringLiteral(":/") + file.baseName() + QLatin1Char('/');
+        description.styleFiles.push_back(QStringToUtf8(prefix + QStringLiteral("style.qss")));
+        description.styleFiles.push_back(QStringToUtf8(prefix + QStringLiteral("fonts_") + platform + QStringLiteral(".qss")));
+        description.macroFiles.push_back(QStringToUtf8(prefix + QStringLiteral("fonts.json")));
+        description.fontManifestFiles.push_back(QStringToUtf8(prefix + QStringLiteral("fonts.manifest")));
+    }
+    description.styleFiles.push_back(":/productStyle.qss");
+    description.styleFiles.push_back(QStringToUtf8(QStringLiteral(":/productStyle_") + platform + QStringLiteral(".qss")));
+
+    ApplyTheme(description);
+    d.m_observers.Notify(&ILookAndFeelObserver::OnThemeChanged, d.m_currentTheme);
+}
+
+const std::string& LookAndFeelManager::GetCurrentTheme() const
+{
+    return m_impl->m_currentTheme;
+}
+
+std::string LookAndFeelManager::GetLocalizedThemeName(const std::string& theme) const
+{
+    const Impl& d = *m_impl;
+    const auto it = d.m_themeTitles.find(theme);
+    if (it != d.m_themeTitles.end() && it->second.ChildExists(d.m_currentLocale))
+        return it->second.GetChildString(d.m_currentLocale);
+    LOG(WARNING) << "No title found for theme [" << theme << "] on language [" << d.m_currentLocale << "]!";
+    return theme;
+}
+
+void LookAndFeelManager::ApplyTheme(const ThemeDescription& description)
+{
+    Impl& d = *m_impl;
+    d.m_unitedStylesheet.clear();
+
+    std::map<QString, QString> macros;
+    const QString platform = platformToken();
+    const QString allPlatforms = QStringLiteral("all_platforms");
+    const QString allLanguages = QStringLiteral("all_languages");
+    const QString locale = Utf8ToQString(d.m_currentLocale);
+    for (const std::string& path : description.macroFiles) {
+        QFile file(Utf8ToQString(path));
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+            continue;
+        QTextStream stream(&file);
+        const QVariantMap root = QJsonDocument::fromJson(stream.readAll().toLocal8Bit()).object().toVariantMap();
+        // The most specific block comes last and wins.
+        d.mergeMacros(root, allPlatforms, allLanguages, &macros);
+        d.mergeMacros(root, allPlatforms, locale, &macros);
+        d.mergeMacros(root, platform, allLanguages, &macros);
+        d.mergeMacros(root, platform, locale, &macros);
+    }
+
+    for (const std::string& path : description.fontManifestFiles) {
+        QFile file(Utf8ToQString(path));
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+            continue;
+        QTextStream stream(&file);
+        while (!stream.atEnd()) {
+            QString token;
+            stream >> token;
+            if (!token.isEmpty())
+                Util::FontDatabase::addApplicationFont(QStringToUtf8(token));
+        }
+    }
+
+    for (const std::string& path : description.styleFiles) {
+        QFile file(Utf8ToQString(path));
+        if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+            d.m_unitedStylesheet += QString::fromUtf8(file.readAll());
+        d.m_unitedStylesheet += QLatin1Char('\n');
+    }
+
+    // Ascending key order on purpose: a macro whose name is a prefix of another's replaces inside
+    // the longer one's occurrences too, so theme authors must avoid such pairs.
+    for (const auto& [key, value] : macros)
+        d.m_unitedStylesheet.replace(key, value, Qt::CaseSensitive);
+
+    if (d.m_qssPreprocessor)
+        d.m_qssPreprocessor->Preprocess(d.m_unitedStylesheet);
+}
+
+std::string LookAndFeelManager::GetUnitedStylesheet()
+{
+    return QStringToUtf8(m_impl->m_unitedStylesheet);
+}
+
+std::string LookAndFeelManager::GetDefaultLocale() const
+{
+    return kUnknownLocale;
+}
+
+void LookAndFeelManager::RegisterObserver(ILookAndFeelObserver* observer)
+{
+    m_impl->m_observers.RegisterEventHandler(observer);
+}
+
+void LookAndFeelManager::UnregisterObserver(ILookAndFeelObserver* observer)
+{
+    m_impl->m_observers.UnregisterEventHandler(observer);
+}
+
+void LookAndFeelManager::SetQssPreprocessor(const std::shared_ptr<IQssPreprocessor>& preprocessor)
+{
+    m_impl->m_qssPreprocessor = preprocessor;
+}
+
+} // namespace Ostrel::App

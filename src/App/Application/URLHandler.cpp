@@ -1,0 +1,64 @@
+#include "App/Application/URLHandler.h"
+
+#include "App/Application/PreferredBrowser.h"
+#include "QtUtil/Utf8.h"
+#include "Tracking/ApplicationTrackerFactory.h"
+
+#include <QDesktopServices>
+#include <QProcess>
+
+namespace Ostrel::App {
+
+namespace {
+const char* const Slot = "OpenURLWithPreferredBrowser";
+}
+
+URLHandler::URLHandler(QObject* parent, PreferredBrowser& browser)
+    : QObject(parent)
+    , m_browser(browser)
+{
+    QDesktopServices::setUrlHandler(QStringLiteral("http"), this, Slot);
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), this, Slot);
+}
+
+URLHandler::~URLHandler()
+{
+    QDesktopServices::unsetUrlHandler(QStringLiteral("http"));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+}
+
+void URLHandler::OpenURLWithPreferredBrowser(const QUrl& url)
+{
+    // Inside a URL handler Qt hands openUrl to the system, so the fallbacks don't come back here.
+    QString path;
+    if (!m_useSystemBrowser)
+        path = m_browser.Path();
+
+    bool opened = false;
+    bool systemDefault = true;
+    if (path.isEmpty()) {
+        m_useSystemBrowser = true;
+        opened = QDesktopServices::openUrl(url);
+    } else if (QProcess::startDetached(path, {url.toString()})) {
+        opened = true;
+        systemDefault = false;
+    } else {
+        // A browser that failed to start may start next time: the flag stays as it is.
+        opened = QDesktopServices::openUrl(url);
+    }
+
+    const auto tracker = Tracking::ApplicationTrackerFactory::getApplicationTracker();
+    if (!tracker)
+        return;
+    tracker->sendEvent("URL_OPEN", {
+                                       {"STATUS", opened ? "SUCCESS" : "FAIL"},
+                                       {"BROWSER_PATH", Util::QStringToUtf8(path)},
+                                       {"DEFAULT_BROWSER", systemDefault ? "YES" : "NO"},
+                                       {"NAVIGATE_URL", Util::QStringToUtf8(url.toString())},
+                                       {"SOURCE", Util::QStringToUtf8(url.host(QUrl::FullyDecoded))},
+                                       {"URI", Util::QStringToUtf8(url.path(QUrl::FullyDecoded))},
+                                       {"ARGS", Util::QStringToUtf8(url.query())},
+                                   });
+}
+
+} // namespace Ostrel::App
