@@ -3,6 +3,7 @@
 
 #include "HostSplash.h"
 #include "MainWindow.h"
+#include "NagWiring.h"
 
 #include "App/Application/Application.h"
 #include "App/Application/LifetimeManager.h"
@@ -102,6 +103,7 @@ int main(int argc, char** argv)
                                                       "would; the splash stays up meanwhile."),
                                        QStringLiteral("MS"));
     parser.addOption(holdStart);
+    NagWiring::addOptions(parser);
     // The shell's own options (test options) are read by the shell; unknown ones are not an error here.
     parser.parse(QCoreApplication::arguments());
     if (parser.isSet(QStringLiteral("help"))) {
@@ -128,6 +130,10 @@ int main(int argc, char** argv)
     const auto customization =
         std::make_shared<CustomizationManager>(QString(), QStringLiteral(":/host/CaptureDeskCustom.ini"));
     const QString logFile = startLogFile(*customization);
+    const QString product = QString::fromStdString(customization->GetOrganizationName() + "/" +
+                                                   customization->GetApplicationName());
+    if (NagWiring::handOffToRunningInstance(parser, product))
+        return 0;
 
     const auto splash = std::make_shared<HostSplash>(QString::fromStdString(customization->GetPresentableName()));
     splash->show();
@@ -150,6 +156,7 @@ int main(int argc, char** argv)
         std::make_shared<LaunchTypeProcessor>(productSettings, installerSettings, QCoreApplication::arguments()));
 
     // 4. Nags and test options join here as the product adds them.
+    NagWiring nags(app, parser, product, productSettings);
     TrackingLifetimeObserver trackingObserver;
     lifetime->RegisterEventHandler(&trackingObserver);
 
@@ -165,6 +172,7 @@ int main(int argc, char** argv)
     const auto startNow = [&]() {
         window.show();
         lifetime->start();
+        nags.showAfterStart();
         if (quitAfterMs >= 0)
             QTimer::singleShot(quitAfterMs, &app, [&]() { lifetime->tryToQuit(); });
     };

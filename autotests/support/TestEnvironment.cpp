@@ -18,6 +18,7 @@ bool isPlatformNoise(const QString& message)
 {
     return message == QLatin1String("This plugin does not support propagateSizeHints()") ||
            message == QLatin1String("This plugin does not support raise()") ||
+           message == QLatin1String("This plugin does not support setting window opacity") ||
            message.startsWith(QLatin1String("This plugin does not support grabbing the keyboard"));
 }
 

@@ -1,12 +1,5 @@
 #pragma once
 
-namespace Ostrel::App::NagScreen {
-
-/// Shows the product's nag screens. Its operations arrive with the nags.
-class IManager
-{
-public:
-    virtual ~IManager() = default;
-};
-
-} // namespace Ostrel::App::NagScreen
+// The nag manager's interface belongs to the nag library; this name stays for the components'
+// list.
+#include "Nag/IManager.h"

@@ -22,6 +22,8 @@
 #include "Interfaces/IPartnerTracking.h"
 #include "Interfaces/IProductSettingsManager.h"
 #include "Interfaces/IUserSettingsManager.h"
+#include "Ipc/IPCBaseProtocol.h"
+#include "Nag/IManager.h"
 #include "QtUtil/ApplicationVisibleVersion.h"
 #include "QtUtil/HardwareInfoReport.h"
 #include "QtUtil/Utf8.h"
@@ -318,6 +320,33 @@ void Application::Impl::onComponentChanged(const std::shared_ptr<ILinksManager>&
                                            const std::shared_ptr<ILinksManager>&)
 {
     linksManagerSetter->set(manager);
+}
+
+void Application::Impl::onComponentChanged(const std::shared_ptr<IPCBaseProtocol>& protocol,
+                                           const std::shared_ptr<IPCBaseProtocol>&)
+{
+    if (protocol)
+        QObject::connect(protocol.get(), &IPCBaseProtocol::OnOpenNagReceived, &application,
+                         [this](const QString& url) { openNag(url); });
+}
+
+void Application::Impl::onComponentChanged(const std::shared_ptr<NagScreen::IManager>& manager,
+                                           const std::shared_ptr<NagScreen::IManager>&)
+{
+    if (manager && !pendingNagUrl.isEmpty())
+        openNag(pendingNagUrl);
+}
+
+void Application::Impl::openNag(const QString& url)
+{
+    // Kept after use: a nag manager set later shows the last request again.
+    pendingNagUrl = url;
+    const auto manager = application.get<NagScreen::IManager>();
+    if (!manager)
+        return;
+    const QUrl nagUrl(QUrl::fromPercentEncoding(url.toUtf8()));
+    manager->AddNag(manager->GetAppMode(), QStringLiteral("open_nag"), nagUrl, std::string(), std::string(), 0);
+    manager->ShowNag(QStringLiteral("open_nag"));
 }
 
 } // namespace Ostrel::App

@@ -31,6 +31,10 @@ public:
                             const std::shared_ptr<ILaunchTypeProcessor>& oldValue) override;
     void onComponentChanged(const std::shared_ptr<ILinksManager>& newValue,
                             const std::shared_ptr<ILinksManager>& oldValue) override;
+    void onComponentChanged(const std::shared_ptr<IPCBaseProtocol>& newValue,
+                            const std::shared_ptr<IPCBaseProtocol>& oldValue) override;
+    void onComponentChanged(const std::shared_ptr<NagScreen::IManager>& newValue,
+                            const std::shared_ptr<NagScreen::IManager>& oldValue) override;
     using TopManagerObserver::onComponentChanged;
 
     // The fields keep this order: destruction releases the links slot and the pending URL before
@@ -43,6 +47,8 @@ public:
 
 private:
     void onStart();
+    /// A nag asked for by another process: remembered, and opened as soon as a nag manager is there.
+    void openNag(const QString& url);
 };
 
 } // namespace Ostrel::App

@@ -1,0 +1,158 @@
+// Nags that go wrong: QML that doesn't load, a nag server that answers 404 or never answers. The
+// content ends Failed, and no dialog stays up for it. Qt's own QML error lines are expected here.
+
+#include "App/Application/NagScreen/DialogStrategy.h"
+#include "Nag/IWebNagUrlGenerator.h"
+#include "Nag/QuickContent.h"
+#include "Nag/WebQuickContent.h"
+
+#include "TestEnvironment.h"
+
+#include <QTcpServer>
+#include <QTcpSocket>
+
+using namespace Ostrel::App;
+using namespace Ostrel::App::NagScreen;
+
+namespace {
+
+QByteArray httpReply(const QByteArray& status, const QByteArray& body)
+{
+    return "HTTP/1.1 " + status + "\r\nContent-Type: text/plain\r\nContent-Length: " +
+           QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body;
+}
+
+// A nag server on 127.0.0.1: answers each request with `reply`, or stays silent when it is empty.
+class NagServer : public QTcpServer
+{
+public:
+    QByteArray reply;
+    QStringList requests;
+    NagServer()
+    {
+        connect(this, &QTcpServer::newConnection, this, [this]() {
+            while (QTcpSocket* socket = nextPendingConnection()) {
+                connect(socket, &QTcpSocket::readyRead, socket, [this, socket]() {
+                    const QByteArray request = socket->readAll();
+                    const QString line = QString::fromLatin1(request.left(request.indexOf('\r')));
+                    // The QML engine also asks for the folder's qmldir, which a nag server hasn't.
+                    if (line.contains(QLatin1String("/qmldir"))) {
+                        socket->write(httpReply("404 Not Found", ""));
+                        socket->disconnectFromHost();
+                        return;
+                    }
+                    requests << line;
+                    if (!reply.isEmpty()) {
+                        socket->write(reply);
+                        socket->disconnectFromHost();
+                    }
+                });
+            }
+        });
+        listen(QHostAddress::LocalHost);
+    }
+    QUrl url(const QString& path) const
+    {
+        return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(path));
+    }
+};
+
+class FixedGenerator : public IWebNagUrlGenerator
+{
+public:
+    QUrl url;
+    QUrl Generate(const QString&, const QString&, const QString&) override { return url; }
+    QUrl Generate(const NagContext&) override { return url; }
+};
+
+ContentEnvironment environment(const QUrl& url, int timeoutMs)
+{
+    ContentEnvironment env;
+    auto generator = std::make_shared<FixedGenerator>();
+    generator->url = url;
+    env.urlGenerator = generator;
+    env.webTimeoutMs = timeoutMs;
+    return env;
+}
+
+ContentState loadAndWait(AbstractContent& content)
+{
+    content.Load();
+    if (content.State() == ContentState::Loading) {
+        QSignalSpy changed(&content, &AbstractContent::StateChanged);
+        changed.wait(10000);
+    }
+    return content.State();
+}
+
+} // namespace
+
+class FaultsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void brokenOrMissingQmlFails_data()
+    {
+        QTest::addColumn<QUrl>("source");
+        QTest::newRow("does not compile") << QUrl(QStringLiteral("qrc:/test/qml/Broken.qml"));
+        QTest::newRow("missing file") << QUrl::fromLocalFile(QStringLiteral("/nowhere/main.qml"));
+        QTest::newRow("no source") << QUrl();
+    }
+    void brokenOrMissingQmlFails()
+    {
+        QFETCH(QUrl, source);
+        QuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")}, source,
+                             ContentEnvironment());
+        QCOMPARE(loadAndWait(content), ContentState::Failed);
+        QVERIFY(content.Picture().isNull());
+        QVERIFY(content.ComputedHash().isEmpty());
+
+        // Shown all the same, it ends at once with -1 instead of leaving an empty modal window.
+        QWidget window;
+        window.show();
+        DialogStrategy strategy({});
+        QElapsedTimer clock;
+        clock.start();
+        QCOMPARE(strategy.ShowNag(content), -1);
+        QVERIFY(clock.elapsed() < 3000);
+    }
+
+    void aWebNagLoadsFromTheGeneratedAddress()
+    {
+        NagServer server;
+        server.reply = httpReply("200 OK", "import QtQuick 2.15\nItem { width: 400; height: 250; "
+                                           "readonly property string nag_id: \"web_1\" }\n");
+        WebQuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")}, QUrl(),
+                                environment(server.url(QStringLiteral("/nag/main.qml")), 5000));
+        QCOMPARE(loadAndWait(content), ContentState::Ready);
+        QCOMPARE(content.Id(), QStringLiteral("web_1"));
+        QCOMPARE(content.SourceUrl(), server.url(QStringLiteral("/nag/main.qml")));
+        QCOMPARE(content.GetUi()->size(), QSize(400, 250));
+        QCOMPARE(content.Type(), QStringLiteral("web"));
+    }
+
+    void aWebNagThatIsNotThereFails_data()
+    {
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<int>("timeoutMs");
+        QTest::newRow("404") << httpReply("404 Not Found", "gone") << 5000;
+        QTest::newRow("not QML") << httpReply("200 OK", "<html>sorry</html>") << 5000;
+        QTest::newRow("never answers") << QByteArray() << 300;
+    }
+    void aWebNagThatIsNotThereFails()
+    {
+        QFETCH(QByteArray, reply);
+        QFETCH(int, timeoutMs);
+        NagServer server;
+        server.reply = reply;
+        WebQuickContent content(NagContext{QStringLiteral("app_close"), QStringLiteral("free")}, QUrl(),
+                                environment(server.url(QStringLiteral("/nag/main.qml")), timeoutMs));
+        QCOMPARE(loadAndWait(content), ContentState::Failed);
+        QCOMPARE(server.requests.size(), 1);
+    }
+};
+
+OSTREL_TEST_MAIN(FaultsTest)
+
+#include "tst_faults.moc"

@@ -1,0 +1,373 @@
+// The nag library's contract: the nag map and its modes, the web configuration with its criteria,
+// the manager's decisions, the shipped nags and their conventions, the rendering fingerprint.
+
+#include "Interfaces/IProductSettingsManager.h"
+#include "Nag/AbstractContent.h"
+#include "Nag/DefaultNagsSettings.h"
+#include "Nag/DifferenceHash.h"
+#include "Nag/IManagerObserver.h"
+#include "Nag/IShowStrategy.h"
+#include "Nag/NagConfig.h"
+#include "Nag/NagManager.h"
+#include "Nag/QuickContent.h"
+
+#include "NagModelData.h"
+#include "TestEnvironment.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QQuickItem>
+#include <QQuickWidget>
+#include <QRegularExpression>
+
+#include <map>
+
+using namespace Ostrel::App;
+using namespace Ostrel::App::NagScreen;
+
+namespace {
+
+class MemorySettings : public IProductSettingsManager
+{
+public:
+    std::map<std::string, std::string> values;
+    void SetString(const std::string& key, const std::string& value) override { values[key] = value; }
+    bool GetBool(const std::string& key, bool def) const override { return Has(key) ? values.at(key) == "true" : def; }
+    std::string GetString(const std::string& key, const std::string& def) const override
+    {
+        return Has(key) ? values.at(key) : def;
+    }
+    unsigned GetUInt(const std::string&, unsigned def) const override { return def; }
+    bool Has(const std::string& key) const override { return values.count(key) > 0; }
+    void Remove(const std::string& key) override { values.erase(key); }
+    void SetBool(const std::string& key, bool value) override { values[key] = value ? "true" : "false"; }
+    void SetUInt(const std::string&, unsigned) override {}
+    int GetInt(const std::string&, int def) const override { return def; }
+    void SetInt(const std::string&, int) override {}
+    void RemoveGroup(const std::string&) override {}
+    std::vector<std::string> ChildKeys(const std::string&) const override { return {}; }
+    std::vector<std::string> ChildGroups(const std::string&) const override { return {}; }
+};
+
+// Ends each nag at once with the code given, remembering what it was shown.
+class RecordingStrategy : public IShowStrategy
+{
+public:
+    int code = 1;
+    QStringList shown;
+    QStringList ids;
+    int ShowNag(AbstractContent& content) override
+    {
+        shown << content.AppAction();
+        ids << content.Id();
+        return code;
+    }
+};
+
+class RecordingObserver : public IManagerObserver
+{
+public:
+    std::map<QString, bool> available;
+    std::map<QString, bool> dontShow;
+    int reloads = 0;
+    void onNagAvailable(const QString& action, bool value) override { available[action] = value; }
+    void onNagDontShow(const QString& action, bool value) override { dontShow[action] = value; }
+    void onSkipUpdate(const QString&, bool) override {}
+    void onNagsReloaded() override { ++reloads; }
+};
+
+const char* const MapJson = Json0();
+
+QString writeMap(QTemporaryDir& dir)
+{
+    const QString path = dir.filePath(QStringLiteral("map.json"));
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write(MapJson);
+    return path;
+}
+
+} // namespace
+
+class NagModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void mapRowsAndModes()
+    {
+        const auto config = NagConfig::fromJson(MapJson);
+        QVERIFY(config);
+        QCOMPARE(config->size(), std::size_t(6));
+        // A mode's own row wins over the any_mode row; any_mode fills in for the others.
+        QCOMPARE(config->Find(QStringLiteral("licensed"), QStringLiteral("app_start"))->id, QStringLiteral("s2"));
+        QCOMPARE(config->Find(QStringLiteral("trial"), QStringLiteral("app_start"))->id, QStringLiteral("s1"));
+        QVERIFY(!config->Find(QStringLiteral("trial"), QStringLiteral("app_close")));
+        QCOMPARE(config->Find(QStringLiteral("free"), QStringLiteral("ask_for_review"))->implementation,
+                 Implementation::Web);
+        // ActionsForMode lists a mode's own rows only: "any_mode" is a mode like the others there.
+        QCOMPARE(config->ActionsForMode(QStringLiteral("trial")).size(), std::size_t(0));
+        QCOMPARE(config->ActionsForMode(QStringLiteral("any_mode")).count(QStringLiteral("app_start")), std::size_t(1));
+    }
+
+    void badMaps_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<int>("rows"); // -1: refused
+        QTest::newRow("not JSON") << QByteArray("<nags/>") << -1;
+        QTest::newRow("no nags array") << QByteArray(Json1()) << -1;
+        QTest::newRow("an array at the top") << QByteArray("[]") << -1;
+        QTest::newRow("rows without action or source") << QByteArray(Json2()) << 0;
+        QTest::newRow("unknown implementation") << QByteArray(
+            Json3()) << 0;
+        QTest::newRow("a later row replaces") << QByteArray(
+            Json4())
+                                              << 1;
+    }
+    void badMaps()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(int, rows);
+        const auto config = NagConfig::fromJson(json);
+        QCOMPARE(config.has_value(), rows >= 0);
+        if (config)
+            QCOMPARE(int(config->size()), rows);
+    }
+
+    void webConfiguration_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QVariant>("expected");
+        QTest::newRow("default") << "ACTION_OSTREL_FACEBOOK" << "en_US" << QVariant(QStringLiteral("SHOW=ActionOstrelFacebook"));
+        QTest::newRow("ru_RU override") << "ACTION_OSTREL_FACEBOOK" << "ru_RU" << QVariant(QStringLiteral("HIDE=ActionOstrelFacebook"));
+        QTest::newRow("ru_RU shows VK") << "ACTION_OSTREL_VK" << "ru_RU" << QVariant(QStringLiteral("SHOW=ActionOstrelVK"));
+        QTest::newRow("locale is exact") << "ACTION_OSTREL_OK" << "ru" << QVariant(QStringLiteral("HIDE=ActionOstrelOdnoklassniki"));
+        QTest::newRow("absent key") << "ACTION_NOTHING" << "ru_RU" << QVariant();
+    }
+    void webConfiguration()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, locale);
+        const auto document = WebConfig::WebConfigDocument::defaults();
+        QTEST(document.value(QStringLiteral("CustomizationSettings"), key, locale), "expected");
+        QCOMPARE(document.value(QStringLiteral("UpdateCheckerResolver"), QStringLiteral("IsUpdateAllowed"), locale),
+                 QVariant(true));
+        QCOMPARE(document.value(QStringLiteral("UpdateCheckerResolver"), QStringLiteral("AppcastUrl"), locale),
+                 QVariant(QString()));
+    }
+
+    void nagSettingsFromTheWebConfiguration()
+    {
+        using WebConfig::WebConfigDocument;
+        QCOMPARE(WebConfig::DefaultNagsSettings().sendNagHashEvent(), false);
+        const auto server = WebConfigDocument::fromJson(Json5());
+        const auto merged = WebConfigDocument::defaults().mergedWith(server);
+        const WebConfig::DefaultNagsSettings german(merged, QStringLiteral("de_DE"));
+        const WebConfig::DefaultNagsSettings english(merged, QStringLiteral("en_US"));
+        QVERIFY(german.sendNagHashEvent());
+        QVERIFY(!english.sendNagHashEvent());
+        QCOMPARE(english.nagDimmingName(), std::string("color")); // a number where text belongs
+        QCOMPARE(english.nagsProhibitedToDisable(), (std::vector<std::string>{"app_start", "app_close"}));
+        QVERIFY(WebConfigDocument::fromJson("not json").isEmpty());
+        // The built-in sections survive the merge.
+        QCOMPARE(merged.value(QStringLiteral("UpdateCheckerResolver"), QStringLiteral("IsUpdateAllowed"), {}),
+                 QVariant(true));
+    }
+
+    void differenceHash()
+    {
+        QImage left(64, 32, QImage::Format_ARGB32);
+        left.fill(Qt::white);
+        QPainter(&left).fillRect(0, 0, 32, 32, Qt::black);
+        const QString hash = DifferenceHash(left, QSize(8, 4));
+        QCOMPARE(hash.size(), 32);
+        QVERIFY(QRegularExpression(QStringLiteral("^[01]+$")).match(hash).hasMatch());
+        QCOMPARE(DifferenceHash(left.scaled(128, 64), QSize(8, 4)), hash); // scale-independent
+        QImage mirrored = left.mirrored(true, false);
+        QVERIFY(DifferenceHash(mirrored, QSize(8, 4)) != hash);
+        QVERIFY(DifferenceHash(QImage(), QSize(8, 4)).isEmpty());
+        QVERIFY(DifferenceHash(left, QSize()).isEmpty());
+    }
+
+    void managerDecides()
+    {
+        QTemporaryDir dir;
+        const auto settings = std::make_shared<MemorySettings>();
+        NagManager manager(settings, writeMap(dir));
+        manager.SetModuleName(QStringLiteral("capture"));
+        QCOMPARE(manager.GetAppMode(), QStringLiteral("free"));
+        QVERIFY(manager.IsNagAvailable(QStringLiteral("app_start")));      // from any_mode
+        QVERIFY(manager.IsNagAvailable(QStringLiteral("app_close")));
+        QVERIFY(!manager.IsNagAvailable(QStringLiteral("no_such_action")));
+        QVERIFY(!manager.IsNagDisabled(QStringLiteral("no_such_action")));
+        QVERIFY(manager.IsNagDisabled(QStringLiteral("before_routine"))); // the configuration
+        QVERIFY(!manager.IsNagAvailable(QStringLiteral("before_routine")));
+        QVERIFY(!manager.IsNagAvailable(QStringLiteral("major_update")));  // its file is missing
+        QVERIFY(!manager.IsNagAvailable(QStringLiteral("ask_for_review"))); // another module's
+
+        // The user's choice, kept under the mode of the row.
+        settings->SetBool("dontShowNag_app_start_any_mode/s1", true);
+        QVERIFY(manager.IsNagDisabled(QStringLiteral("app_start")));
+        auto nagsSettings = std::make_shared<WebConfig::DefaultNagsSettings>(
+            WebConfig::WebConfigDocument::fromJson(
+                Json6()),
+            QStringLiteral("en_US"));
+        manager.SetNagsSettings(nagsSettings);
+        QVERIFY(!manager.IsNagDisabled(QStringLiteral("app_start")));
+
+        manager.SetAppMode(QStringLiteral("trial"));
+        QVERIFY(!manager.IsNagAvailable(QStringLiteral("app_close")));
+    }
+
+    void showingGoesThroughTheStrategy()
+    {
+        QTemporaryDir dir;
+        NagManager manager(nullptr, writeMap(dir));
+        QCOMPARE(manager.ShowNag(QStringLiteral("app_start")), -1); // no strategy yet
+        const auto strategy = std::make_shared<RecordingStrategy>();
+        manager.SetShowStrategy(strategy);
+        strategy->code = 7;
+        QCOMPARE(manager.ShowNag(QStringLiteral("app_start")), 7);
+        QCOMPARE(manager.ShowNag(QStringLiteral("unknown_action")), -1);
+        QCOMPARE(manager.ShowNag(QStringLiteral("before_routine")), -1);
+        QCOMPARE(strategy->shown, QStringList{QStringLiteral("app_start")});
+        QCOMPARE(strategy->ids, QStringList{QStringLiteral("app_start_welcome_1")}); // the nag's own id
+
+        // An override takes any action, even one without a row, from a local main.qml.
+        manager.OverrideNagPath(QStringLiteral("unknown_action"), QStringLiteral(":/NagScreen/app_close/main.qml"));
+        QVERIFY(manager.IsNagAvailable(QStringLiteral("unknown_action")));
+        QCOMPARE(manager.ShowNag(QStringLiteral("unknown_action")), 7);
+        QCOMPARE(strategy->ids.last(), QStringLiteral("app_close_upgrade_1"));
+        manager.OverrideNagPath(QStringLiteral("unknown_action"), QString());
+        QVERIFY(!manager.IsNagAvailable(QStringLiteral("unknown_action")));
+
+        // A nag added at run time, as a request from another process does.
+        manager.AddNag(QStringLiteral("free"), QStringLiteral("open_nag"),
+                       QUrl(QStringLiteral("qrc:/NagScreen/before_routine/main.qml")), "x", "y", 0);
+        QCOMPARE(manager.ShowNag(QStringLiteral("open_nag")), 7);
+        QCOMPARE(strategy->ids.last(), QStringLiteral("before_routine_watermark_1"));
+    }
+
+    void reloadReportsFromTheEventLoop()
+    {
+        QTemporaryDir dir;
+        NagManager manager(nullptr, writeMap(dir));
+        RecordingObserver observer;
+        manager.AddObserver(&observer);
+        manager.AddObserver(&observer);
+        manager.ReloadNags("REASON_UNKNOWN");
+        QCOMPARE(observer.reloads, 0);
+        QTRY_COMPARE(observer.reloads, 1);
+        QCOMPARE(observer.available.size(), std::size_t(5)); // free rows and any_mode rows
+        QVERIFY(observer.available.at(QStringLiteral("app_start")));
+        QVERIFY(!observer.available.at(QStringLiteral("before_routine")));
+        QVERIFY(observer.dontShow.at(QStringLiteral("before_routine")));
+        manager.RemoveObserver(&observer);
+        manager.ReloadNags("REASON_UNKNOWN");
+        QTest::qWait(20);
+        QCOMPARE(observer.reloads, 1);
+    }
+
+    void aMissingOrBrokenMapShowsNothing()
+    {
+        QTemporaryDir dir;
+        NagManager missing(nullptr, dir.filePath(QStringLiteral("none.json")));
+        QVERIFY(!missing.GetNagConfig());
+        QVERIFY(!missing.IsNagAvailable(QStringLiteral("app_start")));
+        missing.SetShowStrategy(std::make_shared<RecordingStrategy>());
+        QCOMPARE(missing.ShowNag(QStringLiteral("app_start")), -1);
+    }
+
+    void shippedNagsFollowTheConventions_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("app_start") << "app_start";
+        QTest::newRow("app_close") << "app_close";
+        QTest::newRow("before_routine") << "before_routine";
+    }
+    void shippedNagsFollowTheConventions()
+    {
+        QFETCH(QString, folder);
+        const QString base = QStringLiteral(":/NagScreen/") + folder;
+        QuickContent content(NagContext{folder, QStringLiteral("free")},
+                             QUrl(QStringLiteral("qrc") + base + QStringLiteral("/main.qml")), ContentEnvironment());
+        QSignalSpy finished(&content, &AbstractContent::Finished);
+        content.Load();
+        QCOMPARE(content.State(), ContentState::Ready);
+        QCOMPARE(content.GetUi()->size(), QSize(850, 472));
+        QVERIFY(!content.Id().isEmpty());
+
+        // Every tag in all fourteen locales.
+        QFile translations(base + QStringLiteral("/TranslationUtils.js"));
+        QVERIFY(translations.open(QIODevice::ReadOnly));
+        const QString script = QString::fromUtf8(translations.readAll());
+        const int tags = script.count(QRegularExpression(QString::fromLatin1(Json7()),
+                                                         QRegularExpression::MultilineOption));
+        QVERIFY(tags >= 5);
+        for (const char* locale : {"de_DE", "en_US", "es_ES", "fr_FR", "it_IT", "ja_JP", "ko_KR", "nl_NL", "pl_PL",
+                                   "pt_BR", "ru_RU", "tr_TR", "zh_CN", "zh_TW"})
+            QCOMPARE(script.count(QLatin1String("\"") + QLatin1String(locale) + QLatin1String("\":")), tags);
+
+        // Escape closes with 0, once, whatever follows.
+        content.GetUi()->show();
+        QVERIFY(QTest::qWaitForWindowExposed(content.GetUi()));
+        content.GetUi()->activateWindow();
+        content.GetUi()->setFocus();
+        QTest::keyClick(content.GetUi(), Qt::Key_Escape);
+        QTest::keyClick(content.GetUi(), Qt::Key_Escape);
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(finished.at(0).at(0).toInt(), 0);
+    }
+
+    void theFirstFrameGivesPictureAndHash()
+    {
+        QuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
+                             QUrl(QStringLiteral("qrc:/NagScreen/app_start/main.qml")), ContentEnvironment());
+        content.Load();
+        QCOMPARE(content.HashName(), QStringLiteral("app_start_welcome"));
+        QCOMPARE(content.HashSize(), QSize(16, 8));
+        QSignalSpy rendered(&content, &AbstractContent::Rendered);
+        content.GetUi()->show();
+        QVERIFY(rendered.wait());
+        QCOMPARE(content.Picture().size(), QSize(850, 472));
+        const QString hash = content.ComputedHash();
+        QCOMPARE(hash.size(), 16 * 8);
+        QCOMPARE(content.ComputedHash(), hash);
+        QCOMPARE(content.DeclaredHash(), hash); // the nag was published as it renders here
+    }
+
+    void theHashReachesTheSetterWhenAsked()
+    {
+        QTemporaryDir dir;
+        NagManager manager(nullptr, writeMap(dir));
+        manager.SetNagsSettings(std::make_shared<WebConfig::DefaultNagsSettings>(
+            WebConfig::WebConfigDocument::fromJson(
+                Json8()),
+            QStringLiteral("en_US")));
+        // Shows the nag for real, long enough for its first frame.
+        class ShowingStrategy : public IShowStrategy
+        {
+        public:
+            int ShowNag(AbstractContent& content) override
+            {
+                content.GetUi()->show();
+                QSignalSpy rendered(&content, &AbstractContent::Rendered);
+                rendered.wait();
+                content.GetUi()->hide();
+                return 1;
+            }
+        };
+        manager.SetShowStrategy(std::make_shared<ShowingStrategy>());
+        const auto setter = manager.GetNagHashSetter();
+        QVERIFY(!setter->IsSet());
+        manager.ShowNag(QStringLiteral("app_start"));
+        QVERIFY(setter->IsSet());
+        QCOMPARE(setter->get()->hashName, QStringLiteral("app_start_welcome"));
+        QCOMPARE(setter->get()->computedHash.size(), 128);
+    }
+};
+
+OSTREL_TEST_MAIN(NagModelTest)
+
+#include "tst_nagmodel.moc"

@@ -1,0 +1,157 @@
+// The notification popup and strategy, and the two small adapters: the nag links opener and the
+// custom path decorator.
+
+#include "App/Application/NagScreen/CustomPathDecorator.h"
+#include "App/Application/NagScreen/NagLinksOpener.h"
+#include "App/Application/NagScreen/NotificationStrategy.h"
+#include "Interfaces/ILinksOpener.h"
+#include "Nag/QuickContent.h"
+#include "Notification/NotificationPopup.h"
+
+#include "TestEnvironment.h"
+
+#include <QPointer>
+#include <QScreen>
+#include <QTimer>
+
+using namespace Ostrel::App;
+using namespace Ostrel::App::NagScreen;
+using Ostrel::DesktopNotification::CloseReason;
+using Ostrel::DesktopNotification::NotificationPopup;
+
+namespace {
+
+class RecordingOpener : public ILinksOpener
+{
+public:
+    mutable QStringList opened;
+    void OpenUrl(const QString& url) const override { opened << url; }
+    void OpenUrl(URLKeys key) const override { opened << QString::number(key); }
+};
+
+class PassStrategy : public IShowStrategy
+{
+public:
+    QUrl seen;
+    int ShowNag(AbstractContent& content) override
+    {
+        seen = content.SourceUrl();
+        return 4;
+    }
+};
+
+std::unique_ptr<QuickContent> loadedNag()
+{
+    auto content = std::make_unique<QuickContent>(NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
+                                                  QUrl(QStringLiteral("qrc:/test/qml/Growing.qml")),
+                                                  ContentEnvironment());
+    content->Load();
+    return content;
+}
+
+} // namespace
+
+class NotificationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theClosedCallbackFiresOncePerClosing()
+    {
+        QWidget content;
+        content.resize(200, 100);
+        std::vector<CloseReason> reasons;
+        {
+            NotificationPopup popup(&content, false);
+            popup.SetOnClosedCallback([&](CloseReason reason) { reasons.push_back(reason); });
+            popup.SmoothShow();
+            QVERIFY(popup.isVisible());
+            popup.SmoothHide();
+            popup.SmoothHide();
+            QTRY_COMPARE(reasons.size(), std::size_t(1));
+            QVERIFY(!popup.isVisible());
+            QTest::qWait(NotificationPopup::FadeDurationMs() + 50);
+            QCOMPARE(reasons.size(), std::size_t(1));
+
+            popup.SmoothShow();
+            popup.close();
+            popup.SmoothHide();
+            QTest::qWait(NotificationPopup::FadeDurationMs() + 50);
+            QCOMPARE(reasons.size(), std::size_t(2));
+            QCOMPARE(reasons.back(), CloseReason::ClosedByUser);
+
+            popup.SetAutoHideTimeout(30);
+            popup.SmoothShow();
+            QTRY_COMPARE(reasons.size(), std::size_t(3));
+            QCOMPARE(reasons.back(), CloseReason::TimedOut);
+            QCOMPARE(content.parentWidget(), &popup);
+        }
+        QVERIFY(!content.parentWidget()); // given back, not deleted
+    }
+
+    void thePopupSitsInACornerOfTheScreen()
+    {
+        QWidget content;
+        content.setFixedSize(300, 120);
+        NotificationPopup popup(&content, false);
+        popup.SmoothShow();
+        const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+        QVERIFY(area.contains(popup.geometry()));
+        QVERIFY(popup.geometry().right() > area.center().x());
+        QVERIFY(popup.geometry().bottom() > area.center().y());
+        popup.SmoothHide();
+    }
+
+    void theStrategyReturnsZeroForAnyEnding_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::newRow("accepted") << 1;
+        QTest::newRow("rejected") << 0;
+        QTest::newRow("other") << 7;
+    }
+    void theStrategyReturnsZeroForAnyEnding()
+    {
+        QFETCH(int, code);
+        auto content = loadedNag();
+        QPointer<QWidget> ui = content->GetUi();
+        AbstractContent* raw = content.get();
+        QTimer::singleShot(50, raw, [raw, code]() { Q_EMIT raw->Finished(code, {}); });
+        NotificationStrategy strategy;
+        QCOMPARE(strategy.ShowNag(*content), 0);
+        QVERIFY(ui && !ui->parentWidget());
+    }
+
+    void linksGoToTheApplicationsOpenerWhileItLives()
+    {
+        auto opener = std::make_shared<RecordingOpener>();
+        const auto nagOpener = fromLinksOpener(opener);
+        auto content = loadedNag();
+        nagOpener->OpenUrl(*content, QStringLiteral("https://x.example/?a=1"), {{"k", 1}});
+        nagOpener->OpenUrl(*content, BUY_NOW_URL_nag_authorization_window_buynow, {});
+        QCOMPARE(opener->opened, (QStringList{QStringLiteral("https://x.example/?a=1"), QStringLiteral("14")}));
+        opener.reset();
+        nagOpener->OpenUrl(*content, QStringLiteral("https://y.example"), {}); // dropped, no crash
+    }
+
+    void customPathsReplaceOnlyTheirAction()
+    {
+        const auto inner = std::make_shared<PassStrategy>();
+        CustomPathDecorator decorator(inner);
+        decorator.SetCustomPath(QStringLiteral("app_start"), QStringLiteral(":/NagScreen/app_close/main.qml"));
+        auto content = loadedNag();
+        QCOMPARE(decorator.ShowNag(*content), 4);
+        QCOMPARE(inner->seen, QUrl(QStringLiteral("qrc:/NagScreen/app_close/main.qml")));
+        QCOMPARE(content->Id(), QStringLiteral("app_close_upgrade_1"));
+
+        QuickContent other(NagContext{QStringLiteral("app_close"), QStringLiteral("free")},
+                           QUrl(QStringLiteral("qrc:/test/qml/Growing.qml")), ContentEnvironment());
+        QCOMPARE(decorator.ShowNag(other), 4);
+        QCOMPARE(inner->seen, QUrl(QStringLiteral("qrc:/test/qml/Growing.qml")));
+        decorator.RemoveCustomPath(QStringLiteral("app_start"));
+        QVERIFY(decorator.CustomPaths().isEmpty());
+    }
+};
+
+OSTREL_TEST_MAIN(NotificationTest)
+
+#include "tst_notification.moc"

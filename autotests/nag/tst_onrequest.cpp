@@ -1,0 +1,132 @@
+// A nag asked for by another process: carried by the application from the inter-process
+// component to the nag manager, whichever of the two arrives first.
+
+#include "App/Application/Application.h"
+#include "App/Application/LifetimeManager.h"
+#include "Ipc/IPCBaseProtocol.h"
+#include "Nag/IManager.h"
+
+#include "TestEnvironment.h"
+
+using namespace Ostrel::App;
+using namespace Ostrel::App::NagScreen;
+
+namespace {
+
+class RecordingManager : public IManager
+{
+public:
+    QStringList added;  // mode|action|url
+    QStringList shown;
+    void AddObserver(IManagerObserver*) override {}
+    void RemoveObserver(IManagerObserver*) override {}
+    void AddNag(const QString& mode, const QString& action, const QUrl& url, const std::string& id,
+                const std::string& name, int flags) override
+    {
+        QVERIFY(id.empty() && name.empty() && flags == 0);
+        added << mode + QLatin1Char('|') + action + QLatin1Char('|') + url.toString();
+    }
+    void ReloadNags(const std::string&) override {}
+    void OverrideNagPath(const QString&, const QString&) override {}
+    bool IsNagAvailable(const QString&) override { return true; }
+    bool IsNagDisabled(const QString&) override { return false; }
+    int ShowNag(const QString& action) override
+    {
+        shown << action;
+        return 1;
+    }
+    std::shared_ptr<NagHashSetter> GetNagHashSetter() override { return nullptr; }
+    void SetShowStrategy(const std::shared_ptr<IShowStrategy>&) override {}
+    std::shared_ptr<IShowStrategy> GetShowStrategy() const override { return nullptr; }
+    void SetActionStrategy(const std::shared_ptr<IActionStrategy>&) override {}
+    std::shared_ptr<IActionStrategy> GetActionStrategy() const override { return nullptr; }
+    std::shared_ptr<const NagConfig> GetNagConfig() const override { return nullptr; }
+    QString GetAppMode() const override { return QStringLiteral("trial"); }
+    std::shared_ptr<IContentFactory> GetContentFactory() const override { return nullptr; }
+};
+
+} // namespace
+
+class OnRequestTest : public QObject
+{
+    Q_OBJECT
+public:
+    explicit OnRequestTest(Application& application)
+        : m_app(application)
+    {
+    }
+
+private:
+    Application& m_app;
+    std::shared_ptr<IPCBaseProtocol> m_protocol;
+
+    void request(const QString& url)
+    {
+        Q_EMIT m_protocol->OnOpenNagReceived(url);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_app.SetNagScreenManager(nullptr);
+        m_protocol = std::make_shared<IPCBaseProtocol>();
+        m_app.set<IPCBaseProtocol>(m_protocol);
+    }
+
+    void aRequestReachesTheManagerDecoded()
+    {
+        const auto manager = std::make_shared<RecordingManager>();
+        m_app.SetNagScreenManager(manager);
+        request(QStringLiteral("https://nags.example/promo%3Fid%3D7"));
+        QCOMPARE(manager->added, QStringList{QStringLiteral("trial|open_nag|https://nags.example/promo?id=7")});
+        QCOMPARE(manager->shown, QStringList{QStringLiteral("open_nag")});
+    }
+
+    void anEarlyRequestWaitsAndEveryLaterManagerReplaysIt()
+    {
+        request(QStringLiteral("https://nags.example/first"));
+        request(QStringLiteral("https://nags.example/second"));
+        const auto manager = std::make_shared<RecordingManager>();
+        m_app.SetNagScreenManager(manager);
+        QCOMPARE(manager->added, QStringList{QStringLiteral("trial|open_nag|https://nags.example/second")});
+        QCOMPARE(manager->shown.size(), 1);
+        const auto later = std::make_shared<RecordingManager>();
+        m_app.SetNagScreenManager(later);
+        QCOMPARE(later->shown.size(), 1);
+    }
+
+    void anEmptyRequestReplacesTheWaitingOne()
+    {
+        request(QStringLiteral("https://nags.example/waiting"));
+        request(QString());
+        const auto manager = std::make_shared<RecordingManager>();
+        m_app.SetNagScreenManager(manager);
+        QVERIFY(manager->shown.isEmpty());
+    }
+
+    void aReplacedProtocolStillReaches()
+    {
+        const auto manager = std::make_shared<RecordingManager>();
+        m_app.SetNagScreenManager(manager);
+        const auto replacement = std::make_shared<IPCBaseProtocol>();
+        m_app.set<IPCBaseProtocol>(replacement);
+        Q_EMIT replacement->OnOpenNagReceived(QStringLiteral("https://nags.example/x"));
+        QCOMPARE(manager->shown.size(), 1);
+    }
+
+    void cleanupTestCase()
+    {
+        request(QString()); // leaves no request behind for the application's last moments
+        m_app.SetNagScreenManager(nullptr);
+    }
+};
+
+int main(int argc, char** argv)
+{
+    Ostrel::Test::initTestEnvironment(argv[0]);
+    Application application(argc, argv, std::make_shared<LifetimeManager>(), Application::DISABLE_APP_MUTEX);
+    OnRequestTest test(application);
+    return Ostrel::Test::exec(&test, argc, argv);
+}
+
+#include "tst_onrequest.moc"

@@ -1,0 +1,148 @@
+#include "NagWiring.h"
+
+#include "App/Application/Application.h"
+#include "App/Application/NagScreen/DialogStrategy.h"
+#include "App/Application/NagScreen/NotificationStrategy.h"
+#include "Core/ProductSettingsManager.h"
+#include "Ipc/LocalSocketProtocol.h"
+#include "Nag/DefaultNagsSettings.h"
+#include "Nag/NagContext.h"
+#include "Nag/NagManager.h"
+#include "QtUtil/Utf8.h"
+
+#include <glog/logging.h>
+
+#include <QCommandLineParser>
+#include <QLocale>
+#include <QTimer>
+
+using namespace Ostrel;
+using namespace Ostrel::App;
+
+namespace {
+
+QCommandLineOption openNagOption()
+{
+    return {QStringLiteral("open-nag"),
+            QStringLiteral("Show the nag at URL; a running instance shows it instead of a new one."),
+            QStringLiteral("URL")};
+}
+QCommandLineOption dimmingOption()
+{
+    return {QStringLiteral("nag-dimming"),
+            QStringLiteral("Dim the window behind nags with NAME: color, shadow or gif."), QStringLiteral("NAME")};
+}
+QCommandLineOption notificationOption()
+{
+    return {QStringLiteral("nag-notification"), QStringLiteral("Show nags as desktop notifications.")};
+}
+QCommandLineOption startNagDelayOption()
+{
+    return {QStringLiteral("start-nag-delay"),
+            QStringLiteral("Show the nag of the start MS milliseconds after the start (800)."), QStringLiteral("MS")};
+}
+QCommandLineOption noStartNagOption()
+{
+    return {QStringLiteral("no-start-nag"), QStringLiteral("Do not show the nag of the start.")};
+}
+
+// The built-in web configuration, with the host's choice of dimmer on top.
+class HostNagsSettings : public WebConfig::DefaultNagsSettings
+{
+public:
+    explicit HostNagsSettings(QString dimming)
+        : m_dimming(std::move(dimming))
+    {
+    }
+    std::string nagDimmingName() const override
+    {
+        return m_dimming.isEmpty() ? DefaultNagsSettings::nagDimmingName() : Util::QStringToUtf8(m_dimming);
+    }
+    std::string nagDimmingParameters() const override
+    {
+        if (m_dimming == QLatin1String("gif"))
+            return "fileName=:/host/nag-dimmer.gif,loopCount=infinity";
+        if (m_dimming == QLatin1String("shadow"))
+            return "shadowPadding=24,blurRadius=40,color=#a0000000";
+        if (m_dimming == QLatin1String("color"))
+            return "color=#99101828";
+        return DefaultNagsSettings::nagDimmingParameters();
+    }
+
+private:
+    QString m_dimming;
+};
+
+} // namespace
+
+class NagWiring::Impl
+{
+public:
+    Application* application = nullptr;
+    std::shared_ptr<NagScreen::NagManager> manager;
+    std::shared_ptr<LocalSocketProtocol> protocol;
+    QString openNagAtStart;
+    bool startNag = true;
+    int startNagDelayMs = 800;
+};
+
+void NagWiring::addOptions(QCommandLineParser& parser)
+{
+    parser.addOption(openNagOption());
+    parser.addOption(dimmingOption());
+    parser.addOption(notificationOption());
+    parser.addOption(noStartNagOption());
+    parser.addOption(startNagDelayOption());
+}
+
+bool NagWiring::handOffToRunningInstance(const QCommandLineParser& parser, const QString& product)
+{
+    if (!parser.isSet(openNagOption()))
+        return false;
+    const bool handedOff = LocalSocketProtocol::SendOpenNag(product, parser.value(openNagOption()));
+    if (handedOff)
+        LOG(INFO) << "The running instance shows the requested nag";
+    return handedOff;
+}
+
+NagWiring::NagWiring(Application& application, const QCommandLineParser& parser, const QString& product,
+                     const std::shared_ptr<ProductSettingsManager>& settings)
+    : d(std::make_unique<Impl>())
+{
+    d->application = &application;
+    const auto nagsSettings = std::make_shared<HostNagsSettings>(parser.value(dimmingOption()));
+    d->manager = std::make_shared<NagScreen::NagManager>(settings);
+    d->manager->SetNagsSettings(nagsSettings);
+    d->manager->SetAppMode(NagScreen::AppMode::Free());
+    d->manager->SetLocaleProvider([]() { return QLocale().name(); });
+    if (parser.isSet(notificationOption()))
+        d->manager->SetShowStrategy(std::make_shared<NagScreen::NotificationStrategy>());
+    else
+        d->manager->SetShowStrategy(std::make_shared<NagScreen::DialogStrategy>(nagsSettings));
+
+    // The first instance listens; a request that no instance took is this instance's own.
+    d->protocol = std::make_shared<LocalSocketProtocol>(product);
+    if (d->protocol->Listen())
+        application.set<IPCBaseProtocol>(d->protocol);
+    d->openNagAtStart = parser.value(openNagOption());
+    d->startNag = !parser.isSet(noStartNagOption());
+    bool valid = false;
+    const int delay = parser.value(startNagDelayOption()).toInt(&valid);
+    if (valid && delay >= 0)
+        d->startNagDelayMs = delay;
+    application.SetNagScreenManager(d->manager);
+}
+
+NagWiring::~NagWiring() = default;
+
+void NagWiring::showAfterStart()
+{
+    // After the main window has painted, so that the nag has something to sit on.
+    QTimer::singleShot(d->startNagDelayMs, d->application, [this]() {
+        // A request on this instance's own command line takes the same road as one from another.
+        if (!d->openNagAtStart.isEmpty() && d->protocol->IsListening())
+            Q_EMIT d->protocol->OnOpenNagReceived(d->openNagAtStart);
+        else if (d->startNag)
+            d->manager->ShowNag(NagScreen::AppAction::AppStart());
+    });
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class QCommandLineParser;
+
+namespace Ostrel::App {
+class Application;
+class CustomizationManager;
+class ProductSettingsManager;
+} // namespace Ostrel::App
+
+/// The host's nags: the nag manager with a dialog (or notification) strategy, requests from other
+/// instances over the local socket, and the "app_start" nag shortly after the start.
+class NagWiring
+{
+public:
+    /// Adds the host's nag options to `parser`.
+    static void addOptions(QCommandLineParser& parser);
+    /// With "--open-nag", hands the address to a running instance. True when it took it: this
+    /// process has nothing more to do.
+    static bool handOffToRunningInstance(const QCommandLineParser& parser, const QString& product);
+
+    NagWiring(Ostrel::App::Application& application, const QCommandLineParser& parser, const QString& product,
+              const std::shared_ptr<Ostrel::App::ProductSettingsManager>& settings);
+    ~NagWiring();
+    NagWiring(const NagWiring&) = delete;
+    NagWiring& operator=(const NagWiring&) = delete;
+
+    /// Call once the main window is up.
+    void showAfterStart();
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> d;
+};

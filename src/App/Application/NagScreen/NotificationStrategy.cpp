@@ -1,0 +1,21 @@
+#include "App/Application/NagScreen/NotificationStrategy.h"
+
+#include "Nag/AbstractContent.h"
+#include "Notification/NotificationPopup.h"
+
+#include <QEventLoop>
+
+namespace Ostrel::App::NagScreen {
+
+int NotificationStrategy::ShowNag(AbstractContent& content)
+{
+    QEventLoop loop;
+    DesktopNotification::NotificationPopup popup(content.GetUi(), false);
+    QObject::connect(&content, &AbstractContent::Finished, &content, [&popup]() { popup.SmoothHide(); },
+                     Qt::DirectConnection);
+    popup.SmoothShow();
+    popup.SetOnClosedCallback([&loop](DesktopNotification::CloseReason) { loop.exit(0); });
+    return loop.exec();
+}
+
+} // namespace Ostrel::App::NagScreen

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "App/Application/ostrel_app_export.h"
+#include "Nag/IShowStrategy.h"
+
+namespace Ostrel::App::NagScreen {
+
+/// Shows a nag as a desktop notification popup, undimmed. Returns 0 for every ending.
+class OSTREL_APP_EXPORT NotificationStrategy : public IShowStrategy
+{
+public:
+    NotificationStrategy() = default;
+    ~NotificationStrategy() override = default;
+    NotificationStrategy(const NotificationStrategy&) = default;
+    NotificationStrategy(NotificationStrategy&&) = default;
+    NotificationStrategy& operator=(const NotificationStrategy&) = default;
+    NotificationStrategy& operator=(NotificationStrategy&&) = default;
+
+    int ShowNag(AbstractContent& content) override;
+};
+
+} // namespace Ostrel::App::NagScreen

@@ -1,0 +1,175 @@
+import QtQuick 2.15
+import "TranslationUtils.js" as TU
+import "../common/qmlStyle.js" as Style
+
+// Offered when a free or trial user closes the product: what the full edition adds.
+Item {
+    id: root
+    width: 850
+    height: 472
+    focus: true
+
+    readonly property string nag_id: "app_close_upgrade_1"
+    readonly property string nag_name: "Upgrade on close"
+    readonly property string compareUrl: "https://go.ostrel.com/compare/?asrc=nag_app_close&mode=-APP_MODE-&-TAIL_WITH_ARGS-"
+
+    function accept() { callback.Accept() }
+    function close() { callback.Reject() }
+    function buyNow() { callback.BuyNow() }
+    function openLink(url) { callback.RequestUrl(url) }
+    function dontShow() { callback.DontShow(); close() }
+
+    Keys.onEscapePressed: close()
+    Keys.onReturnPressed: buyNow()
+    Keys.onEnterPressed: buyNow()
+
+    Rectangle {
+        id: card
+        anchors.fill: parent
+        radius: 10
+        color: "#ffffff"
+        border.color: "#d9dee7"
+        clip: true
+
+        Rectangle {
+            id: hero
+            width: 330
+            anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
+            radius: 10
+            gradient: Gradient {
+                GradientStop { position: 0.0; color: "#5b2a86" }
+                GradientStop { position: 1.0; color: "#c8457a" }
+            }
+            Rectangle {
+                id: screen
+                width: 220; height: 150
+                anchors.centerIn: parent
+                radius: 8
+                color: "#f4f7fd"
+                Rectangle { width: parent.width; height: 22; radius: 8; color: "#dfe7f7" }
+                Row {
+                    x: 10; y: 7; spacing: 6
+                    Repeater { model: ["#ff6159", "#ffbd2e", "#28c941"]; Rectangle { width: 8; height: 8; radius: 4; color: modelData } }
+                }
+                Rectangle {
+                    id: selection
+                    x: 38; y: 42; width: 132; height: 80
+                    color: "#33c8457a"
+                    border.color: "#c8457a"
+                    border.width: 2
+                    Repeater {
+                        model: 4
+                        Rectangle {
+                            width: 9; height: 9; radius: 2; color: "#ffffff"; border.color: "#c8457a"; border.width: 2
+                            x: (index % 2) * (selection.width - width)
+                            y: Math.floor(index / 2) * (selection.height - height)
+                        }
+                    }
+                }
+                Rectangle { x: 158; y: 112; width: 14; height: 14; rotation: 45; color: "#5b2a86" }
+            }
+            Text {
+                anchors { horizontalCenter: parent.horizontalCenter; top: screen.bottom; topMargin: 22 }
+                text: "PRO"
+                color: "#ffffff"
+                opacity: 0.85
+                font { family: Style.fontVerdana; pixelSize: 15; bold: true; letterSpacing: 6 }
+            }
+        }
+
+        Column {
+            id: body
+            anchors { left: hero.right; right: parent.right; top: parent.top; leftMargin: 44; rightMargin: 48; topMargin: 58 }
+            spacing: 16
+
+            Text {
+                width: parent.width
+                wrapMode: Text.WordWrap
+                text: TU.getLocalizedText("Before you go")
+                color: "#17233b"
+                font { family: Style.fontArial; pixelSize: 28; bold: true }
+            }
+            Text {
+                width: parent.width
+                wrapMode: Text.WordWrap
+                text: TU.getLocalizedText("Unlock everything %1 can do").arg(callback.GetProductNameWithOrganization())
+                color: "#4a5670"
+                lineHeight: 1.2
+                font { family: Style.fontArial; pixelSize: 15 }
+            }
+            Column {
+                spacing: 10
+                topPadding: 6
+                Repeater {
+                    model: ["No watermark on your exports", "Record in 4K at 60 frames per second"]
+                    Row {
+                        spacing: 10
+                        Rectangle {
+                            width: 18; height: 18; radius: 9; color: "#fbe6ee"
+                            Text { anchors.centerIn: parent; text: "\u2713"; color: "#c8457a"; font { pixelSize: 12; bold: true } }
+                        }
+                        Text { text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontArial; pixelSize: 14 } }
+                    }
+                }
+            }
+        }
+
+        Row {
+            id: buttons
+            anchors { left: body.left; bottom: parent.bottom; bottomMargin: 66 }
+            spacing: 14
+            Rectangle {
+                id: primary
+                width: Math.max(170, primaryLabel.implicitWidth + 48); height: 44; radius: 6
+                color: primaryArea.pressed ? "#a3345f" : (primaryArea.containsMouse ? "#b83d6d" : "#c8457a")
+                Text { id: primaryLabel; anchors.centerIn: parent; text: TU.getLocalizedText("Upgrade now"); color: "#ffffff"; font { family: Style.fontArial; pixelSize: 15; bold: true } }
+                MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.buyNow() }
+            }
+            Rectangle {
+                width: Math.max(110, laterLabel.implicitWidth + 40); height: 44; radius: 6
+                color: laterArea.containsMouse ? "#f1f4f9" : "#ffffff"
+                border.color: "#cdd5e3"
+                Text { id: laterLabel; anchors.centerIn: parent; text: TU.getLocalizedText("Not now"); color: "#3b4863"; font { family: Style.fontArial; pixelSize: 15 } }
+                MouseArea { id: laterArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
+            }
+        }
+
+        Text {
+            anchors { left: body.left; bottom: parent.bottom; bottomMargin: 28 }
+            text: TU.getLocalizedText("<a href=\"#\">Compare editions</a>")
+            textFormat: Text.RichText
+            linkColor: "#c8457a"
+            font { family: Style.fontArial; pixelSize: 13 }
+            onLinkActivated: root.openLink(root.compareUrl)
+            MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; cursorShape: Qt.PointingHandCursor }
+        }
+        Text {
+            anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
+            text: TU.getLocalizedText("Don't show again")
+            color: dontShowArea.containsMouse ? "#4a5670" : "#8a94a8"
+            font { family: Style.fontArial; pixelSize: 12 }
+            MouseArea { id: dontShowArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.dontShow() }
+        }
+    }
+
+    Rectangle {
+        id: closeButton
+        width: 28; height: 28; radius: 14
+        anchors.top: parent.top
+        anchors.topMargin: 12
+        color: closeArea.containsMouse ? "#eef1f6" : "transparent"
+        Text { anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; font.pixelSize: 14 }
+        MouseArea { id: closeArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
+    }
+
+    Component.onCompleted: {
+        // Same size and margin everywhere; only the corner follows the platform's habit.
+        if (Style.platform === "mac") {
+            closeButton.anchors.left = root.left
+            closeButton.anchors.leftMargin = 12
+        } else {
+            closeButton.anchors.right = root.right
+            closeButton.anchors.rightMargin = 12
+        }
+    }
+}

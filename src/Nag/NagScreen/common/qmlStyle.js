@@ -1,0 +1,5 @@
+.pragma library
+
+var fontArial = "Arial";
+var fontVerdana = "Verdana";
+var platform = "win";

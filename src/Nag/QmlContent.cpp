@@ -1,0 +1,320 @@
+#include "Nag/QmlContent.h"
+
+#include "Nag/DifferenceHash.h"
+#include "Nag/IActionStrategy.h"
+#include "Nag/NagCallback_p.h"
+#include "QtUtil/Utf8.h"
+
+#include <glog/logging.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWidget>
+#include <QTimer>
+
+namespace Ostrel::App::NagScreen {
+
+namespace {
+// The first frame of a shown nag needs a moment: the scene graph renders after the show event.
+constexpr int RenderedDelayMs = 150;
+} // namespace
+
+class QmlContent::Impl
+{
+public:
+    QQuickWidget* view = nullptr;
+    NagCallback* callback = nullptr;
+    QMap<QString, QString> dimmingParameters;
+    QString fallbackId;
+    QString fallbackName;
+    QMetaObject::Connection widthConnection;
+    QMetaObject::Connection heightConnection;
+};
+
+QmlContent::QmlContent(const NagContext& context, ContentEnvironment environment, QObject* parent)
+    : AbstractContent(context, std::move(environment), parent)
+    , d(std::make_unique<Impl>())
+{
+    d->callback = new NagCallback(*this);
+    d->view = new QQuickWidget;
+    d->view->setObjectName(QStringLiteral("NagView"));
+    d->view->setResizeMode(QQuickWidget::SizeViewToRootObject);
+    d->view->setFocusPolicy(Qt::StrongFocus);
+    d->view->setAttribute(Qt::WA_AlwaysStackOnTop);
+    d->view->setClearColor(Qt::transparent);
+    d->view->rootContext()->setContextProperty(QStringLiteral("callback"), d->callback);
+    d->view->installEventFilter(this);
+    setUi(d->view);
+
+    connect(this, &AbstractContent::AcceptRequested, this,
+            [this](const QMap<QString, QVariant>& params) { finish(1, params); });
+    connect(this, &AbstractContent::StateChanged, this, [this](ContentState state) {
+        // A nag that breaks while on screen must not leave an empty modal window behind.
+        if (state == ContentState::Failed && d->view->isVisible())
+            QTimer::singleShot(0, this, [this]() { finish(-1, {}); });
+    });
+}
+
+QmlContent::~QmlContent()
+{
+    // The view goes first (in the base), while the bridge it refers to still exists.
+    delete GetUi();
+    delete d->callback;
+}
+
+QQuickWidget* QmlContent::view() const
+{
+    return d->view;
+}
+
+QQuickItem* QmlContent::nagItem() const
+{
+    return d->view->rootObject();
+}
+
+QVariant QmlContent::nagProperty(const char* name) const
+{
+    const QQuickItem* item = nagItem();
+    return item ? item->property(name) : QVariant();
+}
+
+void QmlContent::SetFallbackIdentity(const QString& id, const QString& name)
+{
+    d->fallbackId = id;
+    d->fallbackName = name;
+}
+
+QString QmlContent::Id() const
+{
+    const QString id = nagProperty("nag_id").toString();
+    return id.isEmpty() ? d->fallbackId : id;
+}
+
+QString QmlContent::Name() const
+{
+    const QString name = nagProperty("nag_name").toString();
+    return name.isEmpty() ? d->fallbackName : name;
+}
+
+QString QmlContent::DimmingName() const
+{
+    return nagProperty("dimming_name").toString();
+}
+
+const QMap<QString, QString>& QmlContent::DimmingParameters() const
+{
+    return d->dimmingParameters;
+}
+
+QString QmlContent::Locale() const
+{
+    return nagProperty("nag_locale").toString();
+}
+
+bool QmlContent::HasLocale() const
+{
+    return !Locale().isEmpty();
+}
+
+QString QmlContent::DeclaredHash() const
+{
+    return nagProperty("nag_hash").toString();
+}
+
+QString QmlContent::HashName() const
+{
+    return nagProperty("hash_name").toString();
+}
+
+QSize QmlContent::HashSize() const
+{
+    const QVariant size = nagProperty("hash_size");
+    return size.canConvert<QSizeF>() ? size.toSizeF().toSize() : QSize();
+}
+
+QPixmap QmlContent::Picture() const
+{
+    if (State() != ContentState::Ready)
+        return {};
+    const QImage image = d->view->grabFramebuffer();
+    return image.isNull() ? QPixmap() : QPixmap::fromImage(image);
+}
+
+QString QmlContent::ComputedHash() const
+{
+    if (State() != ContentState::Ready || !HashSize().isValid())
+        return {};
+    return DifferenceHash(d->view->grabFramebuffer(), HashSize());
+}
+
+void QmlContent::adoptNagItem()
+{
+    QQuickItem* item = nagItem();
+    if (!item) {
+        fail("the nag has no visual root item");
+        return;
+    }
+    d->dimmingParameters.clear();
+    const QVariantMap parameters = item->property("dimming_parameters").toMap();
+    for (auto it = parameters.cbegin(); it != parameters.cend(); ++it)
+        d->dimmingParameters.insert(it.key(), it.value().toString());
+
+    QObject::disconnect(d->widthConnection);
+    QObject::disconnect(d->heightConnection);
+    d->widthConnection = connect(item, &QQuickItem::widthChanged, this, &QmlContent::followSize);
+    d->heightConnection = connect(item, &QQuickItem::heightChanged, this, &QmlContent::followSize);
+    item->setFocus(true);
+    rearmFinish();
+    followSize();
+    setState(ContentState::Ready);
+}
+
+void QmlContent::followSize()
+{
+    const QQuickItem* item = nagItem();
+    if (!item)
+        return;
+    const QSize size(qRound(item->width()), qRound(item->height()));
+    if (size.isEmpty())
+        return;
+    // A fixed size lets the dialog's layout follow the nag both when it grows and when it shrinks.
+    d->view->setFixedSize(size);
+    Q_EMIT SizeChanged(size);
+}
+
+void QmlContent::fail(const std::string& why)
+{
+    LOG(ERROR) << "Nag for action " << Util::QStringToUtf8(AppAction()) << " failed: " << why;
+    setState(ContentState::Failed);
+}
+
+bool QmlContent::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == d->view && event->type() == QEvent::Show) {
+        if (State() == ContentState::Failed) {
+            QTimer::singleShot(0, this, [this]() { finish(-1, {}); });
+        } else {
+            QTimer::singleShot(RenderedDelayMs, this, [this]() {
+                if (State() == ContentState::Ready && d->view->isVisible())
+                    Q_EMIT Rendered();
+            });
+        }
+    }
+    return AbstractContent::eventFilter(watched, event);
+}
+
+// ---------------------------------------------------------------------------------------------
+
+NagCallback::NagCallback(QmlContent& content)
+    : m_content(content)
+{
+}
+
+void NagCallback::Accept()
+{
+    m_content.finish(1, {});
+}
+
+void NagCallback::Accept(const QVariantMap& params)
+{
+    m_content.finish(1, params);
+}
+
+void NagCallback::Reject()
+{
+    m_content.finish(0, {});
+}
+
+void NagCallback::Reject(const QVariantMap& params)
+{
+    m_content.finish(0, params);
+}
+
+void NagCallback::BuyNow()
+{
+    if (const auto actions = m_content.actionStrategy())
+        actions->ShowBuyNow(m_content);
+    m_content.finish(1, {});
+}
+
+void NagCallback::OpenLiveChat()
+{
+    if (const auto actions = m_content.actionStrategy())
+        actions->OpenLiveChat(m_content);
+}
+
+void NagCallback::RequestUrl(const QString& url)
+{
+    RequestUrl(url, {});
+}
+
+void NagCallback::RequestUrl(const QString& url, const QVariantMap& params)
+{
+    const auto actions = m_content.actionStrategy();
+    if (!actions) {
+        LOG(WARNING) << "Nag link dropped, no action strategy is set: " << Util::QStringToUtf8(url);
+        return;
+    }
+    // Macros such as -TAIL_WITH_ARGS- survive tolerant parsing; the strategy expands them.
+    actions->OpenUrl(m_content, QUrl(url, QUrl::TolerantMode), params);
+}
+
+void NagCallback::RequestUrlKey(const QString& key, const QVariantMap& params)
+{
+    if (const auto actions = m_content.actionStrategy())
+        actions->OpenUrlKey(m_content, key, params);
+}
+
+void NagCallback::ButtonClicked(const QString& buttonId, const QVariant& value)
+{
+    if (const auto actions = m_content.actionStrategy())
+        actions->PerformButtonAction(m_content, buttonId, value);
+}
+
+void NagCallback::CustomAction(const QString& action, const QVariant& value)
+{
+    if (const auto actions = m_content.actionStrategy())
+        actions->PerformCustomAction(m_content, action, value);
+}
+
+void NagCallback::DontShow()
+{
+    if (m_content.environment().dontShow)
+        m_content.environment().dontShow(m_content);
+    if (const auto actions = m_content.actionStrategy())
+        actions->NagDontShowClicked(m_content);
+}
+
+void NagCallback::ScreenShown(const QVariantMap& params)
+{
+    if (const auto actions = m_content.actionStrategy())
+        actions->ScreenShown(m_content, params);
+}
+
+QString NagCallback::GetLocale() const
+{
+    if (m_content.HasLocale())
+        return m_content.Locale();
+    const auto& locale = m_content.environment().locale;
+    const QString current = locale ? locale() : QString();
+    return current.isEmpty() ? QStringLiteral("en_US") : current;
+}
+
+QString NagCallback::GetOrganizationPresentableName() const
+{
+    return QCoreApplication::organizationName();
+}
+
+QString NagCallback::GetProductNameWithOrganization() const
+{
+    const QString organization = QCoreApplication::organizationName();
+    const QString product = QCoreApplication::applicationName();
+    if (organization.isEmpty())
+        return product;
+    return product.startsWith(organization) ? product : organization + QLatin1Char(' ') + product;
+}
+
+} // namespace Ostrel::App::NagScreen
