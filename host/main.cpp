@@ -2,6 +2,7 @@
 // each step says what a product would put there.
 
 #include "HostSplash.h"
+#include "LogFile.h"
 #include "MainWindow.h"
 #include "NagWiring.h"
 
@@ -65,7 +66,9 @@ QString startLogFile(const CustomizationManager& customization)
         FLAGS_logtostderr = true;
         return QStringLiteral("<standard error>");
     }
-    const QString file = folder + QStringLiteral("/ostrel-host.log");
+    QString file = folder + QStringLiteral("/ostrel-host.log");
+    if (isLogFileTakenByAnotherProcess(file))
+        file = folder + QStringLiteral("/ostrel-host.%1.log").arg(QCoreApplication::applicationPid());
     FLAGS_logtostderr = false;
     FLAGS_timestamp_in_logfile_name = false;
     FLAGS_stderrthreshold = google::GLOG_WARNING;
