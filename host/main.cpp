@@ -1,6 +1,7 @@
 // The sample host: how a product wires the shell. It follows the start sequence step by step;
 // each step says what a product would put there.
 
+#include "ExtensionsWiring.h"
 #include "HostSplash.h"
 #include "LogFile.h"
 #include "MainWindow.h"
@@ -172,6 +173,8 @@ int main(int argc, char** argv)
     app.SetLinksManager(std::make_shared<LinksManager>(
         customization, app.get<IHardwareInfo>(), app.GetLookAndFeel(), app.GetMailSettingsManager(), productSettings,
         app.get<IUserSettingsManager>(), app.GetLaunchTypeProcessor(), nullptr, installerSettings));
+    // The start-up extensions run once, right after the start, and live for the whole run.
+    ExtensionsWiring extensions(app, *lifetime);
     const auto startNow = [&]() {
         window.show();
         lifetime->start();

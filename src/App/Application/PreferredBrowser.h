@@ -1,6 +1,7 @@
 #pragma once
 
 #include "App/Application/AbstractPreferredBrowser.h"
+#include "App/Application/Extensions/Extension.h"
 #include "App/Application/ostrel_app_export.h"
 
 #include <memory>
@@ -19,7 +20,7 @@ class URLHandler;
 /// then the MuiCache (programs the user ran, matched by exact lower-case file name); then the
 /// registered browsers of the current user and of the machine (matched without regard to case,
 /// commands with arguments passed over). What the sources are on each system: SystemBrowserSources.
-class OSTREL_APP_EXPORT PreferredBrowser : public AbstractPreferredBrowser
+class OSTREL_APP_EXPORT PreferredBrowser : public AbstractPreferredBrowser, public Extension
 {
 public:
     /// Takes over "http" and "https" for the process, and reads the context from the three

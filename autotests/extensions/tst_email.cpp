@@ -1,0 +1,319 @@
+// The e-mail collector with its dialog and its sender: as a user fills the dialog, against a
+// server on 127.0.0.1 that records what arrives, and the faults of the send.
+
+#include "App/Application/Extensions/EmailCollector/EmailCollector.h"
+#include "Core/LinksManager.h"
+#include "Email/EmailDialogCreator.h"
+#include "Email/EmailSender.h"
+#include "Http/HttpClient.h"
+
+#include "ExtensionFakes.h"
+#include "LogCapture.h"
+#include "TestEnvironment.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+using namespace Ostrel;
+using namespace Ostrel::App;
+using namespace Ostrel::Test;
+
+namespace {
+
+// Records the request line of each request and answers with `status`, or never when `silent`.
+class RecordingServer : public QObject
+{
+public:
+    QList<QByteArray> requestLines;
+    int status = 200;
+    bool silent = false;
+
+    RecordingServer()
+    {
+        m_server.listen(QHostAddress::LocalHost);
+        connect(&m_server, &QTcpServer::newConnection, this, [this]() {
+            QTcpSocket* socket = m_server.nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, this, [this, socket]() {
+                m_buffer += socket->readAll();
+                if (!m_buffer.contains("\r\n\r\n"))
+                    return;
+                requestLines.append(m_buffer.left(m_buffer.indexOf("\r\n")));
+                m_buffer.clear();
+                if (silent)
+                    return;
+                socket->write("HTTP/1.1 " + QByteArray::number(status) +
+                              " X\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
+                socket->disconnectFromHost();
+            });
+        });
+    }
+
+    QString base() const { return QStringLiteral("http://127.0.0.1:%1").arg(m_server.serverPort()); }
+
+private:
+    QTcpServer m_server;
+    QByteArray m_buffer;
+};
+
+// What a user does in the dialog that is open: types, ticks or unticks the consent, clicks.
+struct UserInput
+{
+    QString name;
+    QString email;
+    bool consent = true;
+    bool cancel = false;
+    QString fixedEmail; // typed after the dialog refused `email`
+};
+
+void actOnDialog(const UserInput& input, bool* refused)
+{
+    QWidget* dialog = QApplication::activeModalWidget();
+    QVERIFY(dialog);
+    auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("nameEdit"));
+    auto* email = dialog->findChild<QLineEdit*>(QStringLiteral("emailEdit"));
+    auto* consent = dialog->findChild<QCheckBox*>(QStringLiteral("newsletterCheck"));
+    QVERIFY(name && email && consent);
+    if (input.cancel) {
+        QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("cancelButton")), Qt::LeftButton);
+        return;
+    }
+    QTest::keyClicks(name, input.name);
+    QTest::keyClicks(email, input.email);
+    if (consent->isChecked() != input.consent)
+        QTest::mouseClick(consent, Qt::LeftButton);
+    auto* subscribe = dialog->findChild<QPushButton*>(QStringLiteral("subscribeButton"));
+    QTest::mouseClick(subscribe, Qt::LeftButton);
+    if (input.fixedEmail.isEmpty())
+        return;
+    *refused = dialog->isVisible() && dialog->findChild<QLabel*>(QStringLiteral("errorLabel"))->isVisible();
+    email->clear();
+    QTest::keyClicks(email, input.fixedEmail);
+    QTest::mouseClick(subscribe, Qt::LeftButton);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(UserInput)
+
+class TestEmail : public QObject
+{
+    Q_OBJECT
+
+    std::shared_ptr<ExtensionCustomization> m_customization;
+    std::shared_ptr<MemoryMailSettings> m_mail;
+    std::shared_ptr<SettableLaunchType> m_launchType;
+
+    std::shared_ptr<LinksManager> realLinks(const QString& collectTemplate)
+    {
+        m_customization->custom["Links/COLLECT_EMAIL_URL"] = collectTemplate.toStdString();
+        return std::make_shared<LinksManager>(m_customization, std::make_shared<FakeHardware>(),
+                                              std::make_shared<FakeLookAndFeel>(), m_mail,
+                                              std::make_shared<MemoryProductSettings>(),
+                                              std::make_shared<MemoryUserSettings>(), m_launchType, nullptr, nullptr);
+    }
+
+    std::unique_ptr<EmailCollector> collector(const std::shared_ptr<ILinksManager>& links,
+                                              const std::shared_ptr<Networking::IHttpClient>& http,
+                                              const std::shared_ptr<ExternalStimulus::IGateway>& gateway = nullptr)
+    {
+        return std::make_unique<EmailCollector>(m_customization, links, m_mail, m_launchType, gateway, http);
+    }
+
+private slots:
+    void init()
+    {
+        m_customization = std::make_shared<ExtensionCustomization>();
+        m_mail = std::make_shared<MemoryMailSettings>();
+        m_launchType = std::make_shared<SettableLaunchType>();
+    }
+
+    void whoIsAsked_data()
+    {
+        QTest::addColumn<int>("launchType");
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<QString>("regUser"); // "-": absent
+        QTest::addColumn<bool>("asked");
+
+        QTest::newRow("new user") << 1 << true << "-" << true;
+        QTest::newRow("update") << 2 << true << "-" << false;
+        QTest::newRow("background") << 4 << true << "-" << false;
+        QTest::newRow("collection off") << 1 << false << "-" << false;
+        QTest::newRow("registered") << 1 << true << "1" << false;
+        QTest::newRow("registered 2 is not 1") << 1 << true << "2" << true;
+        QTest::newRow("registered 11 is not 1") << 1 << true << "11" << true;
+    }
+
+    void whoIsAsked()
+    {
+        QFETCH(int, launchType);
+        QFETCH(bool, enabled);
+        QFETCH(QString, regUser);
+        QFETCH(bool, asked);
+        m_launchType->type = launchType;
+        m_customization->emailCollection = enabled;
+        if (regUser != QLatin1String("-"))
+            m_mail->values["IsRegUser"] = regUser.toStdString();
+        const auto gateway = std::make_shared<HoldingGateway>();
+        const auto subject = collector(std::make_shared<RecordingLinks>(), nullptr, gateway);
+        QCOMPARE(subject->needCollectEmail(), asked);
+        subject->onStart();
+        QCOMPARE(gateway->posted.size(), size_t(asked ? 1 : 0));
+        if (asked)
+            QCOMPARE(gateway->posted.front().name, std::string("EMAIL_DIALOG"));
+        // Registered meanwhile: the held-back dialog does not show.
+        m_mail->values["IsRegUser"] = "1";
+        gateway->flush();
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+
+    void userFillsTheDialog_data()
+    {
+        QTest::addColumn<UserInput>("input");
+        QTest::addColumn<bool>("sent");
+        QTest::addColumn<QString>("confirmed");
+
+        QTest::newRow("subscribes") << UserInput{QStringLiteral("Ann Lee"), QStringLiteral("ann+x@example.com"), true, false, {}} << true
+                                    << "1";
+        QTest::newRow("invalid address first")
+            << UserInput{QStringLiteral("Bo"), QStringLiteral("bo@@example"), true, false, QStringLiteral("bo@example.org")}
+            << true << "1";
+        QTest::newRow("no consent") << UserInput{QStringLiteral("Cy"), QStringLiteral("cy@example.com"), false, false, {}} << false
+                                    << "0";
+        QTest::newRow("not now") << UserInput{{}, {}, true, true, {}} << false << "0";
+    }
+
+    // End to end: the real links manager and HTTP client, a server on 127.0.0.1.
+    void userFillsTheDialog()
+    {
+        QFETCH(UserInput, input);
+        QFETCH(bool, sent);
+        QFETCH(QString, confirmed);
+        RecordingServer server;
+        const auto links =
+            realLinks(server.base() + QStringLiteral("/subscribe/?asrc=&-TAIL_WITH_ARGS--AMP-name=-NAME--AMP-email=-EMAIL-"));
+        const auto subject = collector(links, std::make_shared<Networking::HttpClient>());
+
+        bool refused = false;
+        QTimer::singleShot(0, this, [&]() { actOnDialog(input, &refused); });
+        subject->onStart();
+        QCOMPARE(refused, !input.fixedEmail.isEmpty());
+        QCOMPARE(QString::fromStdString(m_mail->values["isConfirmed"]), confirmed);
+        if (!sent) {
+            QTest::qWait(300);
+            QVERIFY(server.requestLines.isEmpty());
+            QVERIFY(!m_mail->Has("IsRegUser"));
+            return;
+        }
+        const QString address = input.fixedEmail.isEmpty() ? input.email : input.fixedEmail;
+        QCOMPARE(QString::fromStdString(m_mail->values["UserEmail"]), address);
+        QCOMPARE(QString::fromStdString(m_mail->values["UserName"]), input.name);
+        QTRY_COMPARE(m_mail->GetString("IsRegUser", ""), std::string("1"));
+        QCOMPARE(server.requestLines.size(), 1);
+        const QByteArray line = server.requestLines.first();
+        QVERIFY2(line.startsWith("GET /subscribe/?"), line.constData());
+        QVERIFY2(line.contains("email=" + QUrl::toPercentEncoding(address)), line.constData());
+        QVERIFY2(line.contains("name=" + QUrl::toPercentEncoding(input.name)), line.constData());
+        QVERIFY(!subject->needCollectEmail());
+    }
+
+    void failedSends_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<bool>("silent");
+        QTest::addColumn<bool>("withClient");
+        QTest::newRow("server error") << 500 << false << true;
+        QTest::newRow("no answer") << 200 << true << true;
+        QTest::newRow("no HTTP client") << 200 << false << false;
+    }
+
+    void failedSends()
+    {
+        QFETCH(int, status);
+        QFETCH(bool, silent);
+        QFETCH(bool, withClient);
+        RecordingServer server;
+        server.status = status;
+        server.silent = silent;
+        m_mail->values = {{"UserName", "Dee"}, {"UserEmail", "dee@example.com"}};
+        const auto links = realLinks(server.base() + QStringLiteral("/s/?name=-NAME--AMP-email=-EMAIL-"));
+        EmailSender sender(links, withClient ? std::make_shared<Networking::HttpClient>() : nullptr, m_mail);
+        sender.SetTimeout(std::chrono::milliseconds(500));
+        bool called = false;
+        bool success = true;
+        std::string message;
+        sender.SendEmail({}, [&](bool ok, const std::string& text) {
+            called = true;
+            success = ok;
+            message = text;
+        });
+        QTRY_VERIFY(called);
+        QVERIFY(!success);
+        QVERIFY(!message.empty());
+        QVERIFY(!m_mail->Has("IsRegUser"));
+    }
+
+    // The nag's way in: the values given win, and are kept.
+    void givenParametersAreStored()
+    {
+        const auto http = std::make_shared<PendingHttpClient>();
+        const auto links = std::make_shared<RecordingLinks>();
+        m_mail->values = {{"UserName", "Old"}, {"UserEmail", "old@example.com"}};
+        EmailSender sender(links, http, m_mail);
+        int calls = 0;
+        sender.SendEmail({{"UserName", "New"}, {"UserEmail", "new@example.com"}, {"isConfirmed", "1"}, {"IsRegUser", "1"}},
+                         [&calls](bool ok, const std::string&) { calls += ok ? 1 : 100; });
+        QCOMPARE(http->requests.size(), size_t(1));
+        QVERIFY(!m_mail->Has("IsRegUser"));
+        QCOMPARE(m_mail->values["UserEmail"], std::string("new@example.com"));
+        http->pending.front()({200, {}, {}});
+        QCOMPARE(calls, 1);
+        QCOMPARE(m_mail->values["IsRegUser"], std::string("1"));
+    }
+
+    void twoSendsInARow()
+    {
+        LogCapture log;
+        m_mail->values["isConfirmed"] = "1";
+        const auto http = std::make_shared<PendingHttpClient>();
+        const auto subject = collector(std::make_shared<RecordingLinks>(), http);
+        subject->sendUserEmail();
+        subject->sendUserEmail();
+        QCOMPARE(http->pending.size(), size_t(2));
+        http->pending[0]({500, {}, "server said no"});
+        QCOMPARE(log.matching("server said no").size(), size_t(1));
+        QVERIFY(log.matching("callback raised").empty());
+        // The newer promise was fulfilled by the older answer: the second fulfilment raises inside
+        // the callback, and the sender keeps it from the network code.
+        http->pending[1]({200, {}, {}});
+        QCOMPARE(log.matching("callback raised").size(), size_t(1));
+    }
+
+    void answerAfterTheCollectorIsGone()
+    {
+        const auto http = std::make_shared<PendingHttpClient>();
+        auto subject = collector(std::make_shared<RecordingLinks>(), http);
+        subject->sendUserEmail();
+        subject.reset();
+        http->pending.front()({200, {}, {}});
+        QVERIFY(!m_mail->Has("IsRegUser"));
+    }
+
+    void nullArguments()
+    {
+        const auto links = std::make_shared<RecordingLinks>();
+        QVERIFY_EXCEPTION_THROWN(EmailCollector(nullptr, links, m_mail, m_launchType, nullptr, nullptr), std::logic_error);
+        QVERIFY_EXCEPTION_THROWN(EmailCollector(m_customization, nullptr, m_mail, m_launchType, nullptr, nullptr),
+                                 std::logic_error);
+        QVERIFY_EXCEPTION_THROWN(EmailCollector(m_customization, links, m_mail, nullptr, nullptr, nullptr),
+                                 std::logic_error);
+        QVERIFY(!EmailDialogCreator::Create(nullptr, links, m_customization, nullptr));
+    }
+};
+
+OSTREL_TEST_MAIN(TestEmail)
+#include "tst_email.moc"

@@ -1,0 +1,37 @@
+#include "App/Application/Extensions/ApplicationRegistryUpdater/ApplicationRegistryUpdater.h"
+
+#include "Events/NotNull.h"
+#include "Interfaces/IProductSettingsManager.h"
+#include "QtUtil/Utf8.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace Ostrel::App {
+
+class ApplicationRegistryUpdater::Impl
+{
+public:
+    explicit Impl(const std::shared_ptr<IProductSettingsManager>& settings)
+        : productSettingsManager(settings)
+    {
+    }
+    Core::NotNull<std::shared_ptr<IProductSettingsManager>> productSettingsManager;
+};
+
+ApplicationRegistryUpdater::ApplicationRegistryUpdater(
+    const std::shared_ptr<IProductSettingsManager>& productSettingsManager)
+    : d(std::make_unique<Impl>(productSettingsManager))
+{
+}
+
+ApplicationRegistryUpdater::~ApplicationRegistryUpdater() = default;
+
+void ApplicationRegistryUpdater::onStart()
+{
+    // applicationDirPath never ends in a separator (the root aside, which no program lies in).
+    const QString path = QDir::toNativeSeparators(QCoreApplication::applicationDirPath()) + QDir::separator();
+    d->productSettingsManager->SetString("Path", Util::QStringToUtf8(path));
+}
+
+} // namespace Ostrel::App

@@ -1,0 +1,9 @@
+#include "App/Application/Extensions/Extension.h"
+
+namespace Ostrel::App {
+
+Extension::~Extension() = default;
+
+void Extension::onStart() {}
+
+} // namespace Ostrel::App

@@ -1,0 +1,12 @@
+#include "Email/AbstractEmailDialog.h"
+
+namespace Ostrel::App {
+
+AbstractEmailDialog::AbstractEmailDialog(QWidget* parent)
+    : QDialog(parent)
+{
+}
+
+AbstractEmailDialog::~AbstractEmailDialog() = default;
+
+} // namespace Ostrel::App
