@@ -1,19 +1,32 @@
 #include "NagWiring.h"
 
 #include "App/Application/Application.h"
+#include "App/Application/NagScreen/DefaultActions.h"
 #include "App/Application/NagScreen/DialogStrategy.h"
+#include "App/Application/NagScreen/NagIdLockStorage.h"
+#include "App/Application/NagScreen/NagLinksOpener.h"
+#include "App/Application/NagScreen/NagScreenEventHandler.h"
+#include "App/Application/NagScreen/NagScreenTestForm.h"
 #include "App/Application/NagScreen/NotificationStrategy.h"
+#include "App/Application/NagScreen/WebNagUrlGenerator.h"
 #include "Core/ProductSettingsManager.h"
+#include "Interfaces/IHttpClient.h"
+#include "Interfaces/IInternetConnectionChecker.h"
+#include "Interfaces/ILinksManager.h"
+#include "Interfaces/IMailSettingsManager.h"
 #include "Ipc/LocalSocketProtocol.h"
 #include "Nag/DefaultNagsSettings.h"
 #include "Nag/NagContext.h"
 #include "Nag/NagManager.h"
 #include "QtUtil/Utf8.h"
+#include "Tracking/ApplicationTrackerFactory.h"
 
 #include <glog/logging.h>
 
 #include <QCommandLineParser>
 #include <QLocale>
+#include <QMenuBar>
+#include <QPointer>
 #include <QTimer>
 
 using namespace Ostrel;
@@ -75,7 +88,7 @@ private:
 
 } // namespace
 
-class NagWiring::Impl
+class NagWiring::Impl : public Core::ComponentSetterObserver
 {
 public:
     Application* application = nullptr;
@@ -84,6 +97,26 @@ public:
     QString openNagAtStart;
     bool startNag = true;
     int startNagDelayMs = 800;
+    std::shared_ptr<NagScreen::INagLinksOpener> linksOpener;
+    bool actionsWired = false;
+    QPointer<NagScreen::NagScreenTestForm> tester;
+
+    ~Impl() override { application->GetLinksManagerSetter()->UnregisterEventHandler(this); }
+
+    // The actions need the links, which the host sets after the window (for its locale).
+    void onSet() override
+    {
+        const auto links = application->GetLinksManagerSetter()->get();
+        if (actionsWired || !links)
+            return;
+        actionsWired = true;
+        // The actions hold the opener weakly; the tracking decorator keeps it from now on.
+        linksOpener = NagScreen::fromLinksOpener(links);
+        manager->SetActionStrategy(std::make_shared<NagScreen::DefaultActions>(
+            links, linksOpener, application->GetCustomizationManager(), application->get<IInternetConnectionChecker>(),
+            application->get<Networking::IHttpClient>(), application->GetMailSettingsManager()));
+        NagScreen::setupNagScreenEventHandler(*application, Tracking::ApplicationTrackerFactory::getApplicationTracker());
+    }
 };
 
 void NagWiring::addOptions(QCommandLineParser& parser)
@@ -130,7 +163,11 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     const int delay = parser.value(startNagDelayOption()).toInt(&valid);
     if (valid && delay >= 0)
         d->startNagDelayMs = delay;
+    d->manager->SetWebNagUrlGenerator(
+        std::make_shared<NagScreen::WebNagUrlGenerator>(application, std::make_shared<NagScreen::NagIdLockStorage>(settings)));
     application.SetNagScreenManager(d->manager);
+    application.GetLinksManagerSetter()->RegisterEventHandler(d.get());
+    d->onSet();
 }
 
 NagWiring::~NagWiring() = default;
@@ -144,5 +181,22 @@ void NagWiring::showAfterStart()
             Q_EMIT d->protocol->OnOpenNagReceived(d->openNagAtStart);
         else if (d->startNag)
             d->manager->ShowNag(NagScreen::AppAction::AppStart());
+    });
+}
+
+void NagWiring::addMenu(QMenuBar& menuBar)
+{
+    QMenu* tools = menuBar.addMenu(QObject::tr("&Tools"));
+    QAction* tester = tools->addAction(QObject::tr("Nag Screen &Tester..."));
+    tester->setObjectName(QStringLiteral("nagTester_action"));
+    QObject::connect(tester, &QAction::triggered, &menuBar, [this, &menuBar]() {
+        if (!d->tester) {
+            d->tester = new NagScreen::NagScreenTestForm(d->manager, menuBar.window());
+            d->tester->setWindowFlag(Qt::Window);
+            d->tester->setAttribute(Qt::WA_DeleteOnClose);
+        }
+        d->tester->show();
+        d->tester->raise();
+        d->tester->activateWindow();
     });
 }

@@ -5,6 +5,7 @@
 #include <memory>
 
 class QCommandLineParser;
+class QMenuBar;
 
 namespace Ostrel::App {
 class Application;
@@ -13,7 +14,9 @@ class ProductSettingsManager;
 } // namespace Ostrel::App
 
 /// The host's nags: the nag manager with a dialog (or notification) strategy, requests from other
-/// instances over the local socket, and the "app_start" nag shortly after the start.
+/// instances over the local socket, and the "app_start" nag shortly after the start. Once the
+/// application has its links manager, the nags' actions (links through the URL handler, purchase
+/// pages, e-mail) and the tracking of every step join in front of the strategy.
 class NagWiring
 {
 public:
@@ -31,6 +34,8 @@ public:
 
     /// Call once the main window is up.
     void showAfterStart();
+    /// A "Tools" menu with the nag tester.
+    void addMenu(QMenuBar& menuBar);
 
 private:
     class Impl;

@@ -167,6 +167,7 @@ int main(int argc, char** argv)
     // 5. The start: observers hear it, the splash goes, the one-shot callbacks run once. The main
     //    window appears with it.
     MainWindow window(app);
+    nags.addMenu(*window.menuBar());
     // Links (the look and feel, for their locale, came with the window): they open in the preferred
     // browser through the URL handler that the browser installs for the process.
     PreferredBrowser preferredBrowser(app.GetLookAndFeel(), productSettings, installerSettings);

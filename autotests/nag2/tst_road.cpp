@@ -1,0 +1,206 @@
+// The road of one nag as the host wires it: the nag manager with the dialog strategy behind the
+// tracking decorator, the default actions with the links opener of the links manager, the URL
+// handler and a stand-in browser process. A real QML nag is shown, its button and its link are
+// clicked, and it is accepted; the tracker holds every step in order.
+
+#include "App/Application/IBrowserSources.h"
+#include "App/Application/ITopManager.h"
+#include "App/Application/NagScreen/DefaultActions.h"
+#include "App/Application/NagScreen/DialogStrategy.h"
+#include "App/Application/NagScreen/NagIdLockStorage.h"
+#include "App/Application/NagScreen/NagLinksOpener.h"
+#include "App/Application/NagScreen/NagScreenEventHandler.h"
+#include "App/Application/NagScreen/WebNagUrlGenerator.h"
+#include "App/Application/PreferredBrowser.h"
+#include "App/Application/URLHandler.h"
+#include "Core/LinksManager.h"
+#include "Nag/DefaultNagsSettings.h"
+#include "Nag/NagManager.h"
+#include "Tracking/ApplicationTrackerFactory.h"
+
+#include "../links/Fakes.h"
+#include "../tracking/RecordingTracker.h"
+#include "TestEnvironment.h"
+
+#include <QDialog>
+#include <QFile>
+#include <QMainWindow>
+#include <QQuickWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+
+using namespace Ostrel;
+using namespace Ostrel::App;
+using namespace Ostrel::App::NagScreen;
+using namespace Ostrel::Test;
+
+namespace {
+
+class NoSources : public IBrowserSources
+{
+public:
+    std::map<QString, QString> processMap() const override { return {}; }
+    QStringList valueNames(const QString&) const override { return {}; }
+    QStringList subkeys(const QString&) const override { return {}; }
+    QString defaultValue(const QString&) const override { return {}; }
+};
+
+// As the web configuration of a product that collects fingerprints.
+class HashingNagsSettings : public WebConfig::DefaultNagsSettings
+{
+public:
+    bool sendNagHashEvent() const override { return true; }
+};
+
+QQuickWidget* shownNag()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == QLatin1String("WebNag") && widget->isVisible())
+            return widget->findChild<QQuickWidget*>();
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class RoadTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir dir;
+    QMainWindow window;
+    ITopManager top;
+    std::shared_ptr<RecordingTracker> tracker = std::make_shared<RecordingTracker>();
+
+    std::vector<RecordingTracker::Event> roadEvents() const
+    {
+        std::vector<RecordingTracker::Event> result;
+        for (const auto& event : tracker->events()) {
+            if (event.name != "PREFERRED_BROWSER")
+                result.push_back(event);
+        }
+        return result;
+    }
+
+    bool seen(const std::string& name) const
+    {
+        for (const auto& event : tracker->events()) {
+            if (event.name == name)
+                return true;
+        }
+        return false;
+    }
+
+private Q_SLOTS:
+    void oneNagFromShowToClose()
+    {
+        QVERIFY(dir.isValid());
+        const QString record = dir.filePath(QStringLiteral("browser.txt"));
+        qputenv("OSTREL_BROWSER_STUB_RECORD", QFile::encodeName(record));
+        Tracking::ApplicationTrackerFactory::setApplicationTracker(tracker);
+
+        window.setGeometry(50, 50, 800, 500);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        // The components, as the host sets them.
+        const auto customization = std::make_shared<FakeCustomization>();
+        const auto hardware = std::make_shared<FakeHardware>();
+        const auto lookAndFeel = std::make_shared<FakeLookAndFeel>();
+        lookAndFeel->locale = "fr_FR";
+        const auto product = std::make_shared<MemoryProductSettings>();
+        const auto user = std::make_shared<MemoryUserSettings>();
+        const auto mail = std::make_shared<MemoryMailSettings>();
+        const auto links = std::make_shared<LinksManager>(customization, hardware, lookAndFeel, mail, product, user,
+                                                          std::make_shared<FakeLaunchType>(), nullptr, nullptr);
+        top.set<ICustomizationManager>(customization);
+        top.set<ILookAndFeelManager>(lookAndFeel);
+        top.set<IProductSettingsManager>(product);
+        top.set<IUserSettingsManager>(user);
+        top.set<ILinksManager>(links);
+
+        PreferredBrowser browser(nullptr, std::make_shared<NoSources>());
+        browser.SetContextCallback([]() {
+            return AbstractPreferredBrowser::PreferredBrowserContext{QString(), QString(), QStringLiteral(BROWSER_STUB)};
+        });
+        URLHandler urlHandler(QCoreApplication::instance(), browser);
+
+        // The nag manager with its strategies, then the tracking in front of them.
+        const auto nagsSettings = std::make_shared<HashingNagsSettings>();
+        const auto manager = std::make_shared<NagManager>(product, QStringLiteral(":/road/nagMap.json"));
+        manager->SetNagsSettings(nagsSettings);
+        manager->SetLocaleProvider([]() { return QStringLiteral("fr_FR"); });
+        manager->SetShowStrategy(std::make_shared<DialogStrategy>(nagsSettings));
+        const auto linksOpener = fromLinksOpener(links);
+        manager->SetActionStrategy(std::make_shared<DefaultActions>(links, linksOpener, customization, nullptr, nullptr, mail));
+        manager->SetWebNagUrlGenerator(std::make_shared<WebNagUrlGenerator>(top, std::make_shared<NagIdLockStorage>(product)));
+        top.set<IManager>(manager);
+        setupNagScreenEventHandler(top, tracker);
+
+        // The user, once the nag is up: waits for its fingerprint, chooses a plan, opens the
+        // link, waits for the browser, accepts.
+        int step = 0;
+        QTimer clicks;
+        clicks.setInterval(20);
+        connect(&clicks, &QTimer::timeout, this, [&]() {
+            QQuickWidget* nag = shownNag();
+            if (!nag)
+                return;
+            if (step == 0 && seen("NAG_HASH")) {
+                QTest::mouseClick(nag, Qt::LeftButton, {}, QPoint(100, 50));
+                ++step;
+            } else if (step == 1) {
+                QTest::mouseClick(nag, Qt::LeftButton, {}, QPoint(300, 50));
+                ++step;
+            } else if (step == 2 && QFile::exists(record)) {
+                QTest::mouseClick(nag, Qt::LeftButton, {}, QPoint(200, 150));
+                ++step;
+            }
+        });
+        clicks.start();
+        QTimer::singleShot(20000, &clicks, []() {
+            if (QWidget* nag = shownNag())
+                nag->window()->close();
+        });
+        const int code = manager->ShowNag(QStringLiteral("app_start"));
+        clicks.stop();
+        QCOMPARE(step, 3);
+        QCOMPARE(code, 1);
+
+        const auto events = roadEvents();
+        std::vector<std::string> names;
+        for (const auto& event : events)
+            names.push_back(event.name);
+        QCOMPARE(names, (std::vector<std::string>{"NAG_SHOW", "NAG_HASH", "NAG_BUTTON_CLICK", "NAG_LINK_CLICK", "URL_OPEN",
+                                                  "NAG_CLOSE"}));
+        const auto& show = events[0].params;
+        QCOMPARE(show.at("NAG_ID"), std::string("road_1"));
+        QCOMPARE(show.at("NAG_LINK_ID"), std::string("ShowNag"));
+        QCOMPARE(show.at("NAG_LOCALE"), std::string("fr_FR"));
+        const auto& hash = events[1].params;
+        QCOMPARE(hash.at("NAG_HASH_NAME"), std::string("road"));
+        QCOMPARE(hash.at("NAG_INTERNAL_HASH"), std::string("10101010101010101010101010101010"));
+        QCOMPARE(hash.at("NAG_COMPUTED_HASH").size(), std::size_t(32));
+        QVERIFY(hash.count("NAG_HASH_MATCH") && hash.count("NAG_HASH_MATCH_PERCENT"));
+        const auto& button = events[2].params;
+        QCOMPARE(button.at("BUTTON_ID"), std::string("plan"));
+        QCOMPARE(button.at("PLAN"), std::string("pro"));
+        QCOMPARE(button.at("SEATS"), std::string("3"));
+        const auto& link = events[3].params;
+        QCOMPARE(link.at("NAG_LINK_ID"), std::string("road_faq"));
+        QCOMPARE(link.at("NAG_LINK_URL_KEY"), std::string("FAQ_URL_menu"));
+        QCOMPARE(link.at("NAG_ASRC"), std::string("menu"));
+        QCOMPARE(link.at("NAG_ID"), std::string("road_1"));
+        QCOMPARE(events[4].params.at("BROWSER_PATH"), std::string(BROWSER_STUB));
+        QCOMPARE(events[4].params.at("NAVIGATE_URL"), link.at("NAG_LINK_URL"));
+        QCOMPARE(events[5].params.at("NAG_EXIT"), std::string("1"));
+
+        QFile started(record);
+        QVERIFY(started.open(QIODevice::ReadOnly));
+        QVERIFY(started.readAll().startsWith("https://link.ostrel.com/faq/?asrc=menu&link_id=road_faq&app=links-probe"));
+        Tracking::ApplicationTrackerFactory::setApplicationTracker(nullptr);
+    }
+};
+
+OSTREL_TEST_MAIN(RoadTest)
+#include "tst_road.moc"
