@@ -13,6 +13,7 @@
 #include "Interfaces/IHttpClient.h"
 #include "Interfaces/IInternetConnectionChecker.h"
 #include "Interfaces/ILinksManager.h"
+#include "Interfaces/ILookAndFeelManager.h"
 #include "Interfaces/IMailSettingsManager.h"
 #include "Ipc/LocalSocketProtocol.h"
 #include "Nag/DefaultNagsSettings.h"
@@ -147,7 +148,12 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     d->manager = std::make_shared<NagScreen::NagManager>(settings);
     d->manager->SetNagsSettings(nagsSettings);
     d->manager->SetAppMode(NagScreen::AppMode::Free());
-    d->manager->SetLocaleProvider([]() { return QLocale().name(); });
+    // The nags speak the language of the look and feel, which the user may switch at any time.
+    d->manager->SetLocaleProvider([app = &application]() {
+        const auto lookAndFeel = app->GetLookAndFeel();
+        const std::string locale = lookAndFeel ? lookAndFeel->GetCurrentLocale() : std::string();
+        return locale.empty() ? QLocale().name() : Util::Utf8ToQString(locale);
+    });
     if (parser.isSet(notificationOption()))
         d->manager->SetShowStrategy(std::make_shared<NagScreen::NotificationStrategy>());
     else

@@ -6,6 +6,7 @@
 #include "LogFile.h"
 #include "MainWindow.h"
 #include "NagWiring.h"
+#include "TestingWiring.h"
 
 #include "App/Application/Application.h"
 #include "App/Application/LifetimeManager.h"
@@ -30,6 +31,8 @@
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QQuickWindow>
+#include <QSGRendererInterface>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -94,6 +97,13 @@ int main(int argc, char** argv)
     const auto lifetime = std::make_shared<LifetimeManager>();
     Application app(argc, argv, lifetime);
     Util::InstallQtMessageRouting();
+    // Without a display there is no OpenGL for the nags' Qt Quick scenes: draw them in software.
+    if (QGuiApplication::platformName() == QLatin1String("offscreen") && !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+    // The shell's test options act from here on (the SSL choice before any URL exists).
+    const auto testing = TestingWiring::create(lifetime);
+    if (!testing)
+        return 2;
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Sample host of the Ostrel application shell"));
@@ -176,6 +186,7 @@ int main(int argc, char** argv)
         app.get<IUserSettingsManager>(), app.GetLaunchTypeProcessor(), nullptr, installerSettings));
     // The start-up extensions run once, right after the start, and live for the whole run.
     ExtensionsWiring extensions(app, *lifetime);
+    testing->connect(app);
     const auto startNow = [&]() {
         window.show();
         lifetime->start();
@@ -193,6 +204,7 @@ int main(int argc, char** argv)
     lifetime->UnregisterEventHandler(&trackingObserver);
 
     LOG(INFO) << "Event loop ended with status " << status;
+    std::fputs(qPrintable(testing->outputSummary(app)), stdout);
     std::printf("Log: %s\nTracking: %s\n", qPrintable(QDir::toNativeSeparators(logFile)),
                 qPrintable(QDir::toNativeSeparators(tracker->filePath())));
     return status;

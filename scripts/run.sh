@@ -6,4 +6,7 @@ build=${BUILD_DIR:-$root/build}
 "$root/scripts/build.sh"
 # Without a display the host still runs: Qt draws offscreen.
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen}; fi
-exec "$build/bin/ostrel-host" --quit-after=1500 "$@"
+# The main job uses the built-in test harness: it shoots every sample nag in every installed locale
+# and dumps the URLs of every locale into build/harness/, then quits by itself 1.5 s after the walk.
+exec "$build/bin/ostrel-host" --quit-after=1500 --no-start-nag \
+  --test-nag-screens= --test-nag-screens-dir="$build/harness" --test-show-nag-delay=200 --test-dump-urls "$@"

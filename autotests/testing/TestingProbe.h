@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QMap>
+#include <QProcess>
+#include <QtTest>
+
+// Runs the harness probe (a child process) with a command line and reads its "key=value" lines.
+struct ProbeResult
+{
+    bool finished = false;
+    int exitCode = -1;
+    QProcess::ExitStatus exitStatus = QProcess::CrashExit;
+    qint64 elapsedMs = 0;
+    QMap<QString, QString> values;
+    QString standardError;
+
+    QString decoded(const QString& key) const { return QString::fromUtf8(QByteArray::fromBase64(values.value(key).toLatin1())); }
+};
+
+inline QProcessEnvironment probeEnvironment(const QString& dataHome)
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove(QStringLiteral("OSTREL_QT_WARNINGS_FAIL"));
+    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    env.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
+    env.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    // The probe's data folder (dumps, pictures) is the test's own.
+    env.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
+    env.insert(QStringLiteral("XDG_CONFIG_HOME"), dataHome + QStringLiteral("/config"));
+    return env;
+}
+
+inline ProbeResult runProbe(const QStringList& arguments, QProcessEnvironment env)
+{
+    QProcess process;
+    process.setProcessEnvironment(env);
+    QElapsedTimer clock;
+    clock.start();
+    process.start(QStringLiteral(TESTING_PROBE), arguments);
+    ProbeResult result;
+    if (!process.waitForFinished(120000)) {
+        process.kill();
+        process.waitForFinished();
+        return result;
+    }
+    result.finished = true;
+    result.elapsedMs = clock.elapsed();
+    result.exitCode = process.exitCode();
+    result.exitStatus = process.exitStatus();
+    result.standardError = QString::fromUtf8(process.readAllStandardError());
+    const QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
+        const int equals = line.indexOf(QLatin1Char('='));
+        if (equals > 0)
+            result.values.insert(line.left(equals), line.mid(equals + 1));
+    }
+    return result;
+}
