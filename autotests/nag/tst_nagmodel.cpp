@@ -12,6 +12,7 @@
 #include "Nag/QuickContent.h"
 
 #include "NagModelData.h"
+#include "MemorySettings.h"
 #include "TestEnvironment.h"
 
 #include <QFile>
@@ -27,27 +28,7 @@ using namespace Ostrel::App::NagScreen;
 
 namespace {
 
-class MemorySettings : public IProductSettingsManager
-{
-public:
-    std::map<std::string, std::string> values;
-    void SetString(const std::string& key, const std::string& value) override { values[key] = value; }
-    bool GetBool(const std::string& key, bool def) const override { return Has(key) ? values.at(key) == "true" : def; }
-    std::string GetString(const std::string& key, const std::string& def) const override
-    {
-        return Has(key) ? values.at(key) : def;
-    }
-    unsigned GetUInt(const std::string&, unsigned def) const override { return def; }
-    bool Has(const std::string& key) const override { return values.count(key) > 0; }
-    void Remove(const std::string& key) override { values.erase(key); }
-    void SetBool(const std::string& key, bool value) override { values[key] = value ? "true" : "false"; }
-    void SetUInt(const std::string&, unsigned) override {}
-    int GetInt(const std::string&, int def) const override { return def; }
-    void SetInt(const std::string&, int) override {}
-    void RemoveGroup(const std::string&) override {}
-    std::vector<std::string> ChildKeys(const std::string&) const override { return {}; }
-    std::vector<std::string> ChildGroups(const std::string&) const override { return {}; }
-};
+using MemorySettings = Ostrel::Test::MemoryProductSettings;
 
 // Ends each nag at once with the code given, remembering what it was shown.
 class RecordingStrategy : public IShowStrategy
