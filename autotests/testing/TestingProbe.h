@@ -28,6 +28,10 @@ inline QProcessEnvironment probeEnvironment(const QString& dataHome)
     // The probe's data folder (dumps, pictures) is the test's own.
     env.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
     env.insert(QStringLiteral("XDG_CONFIG_HOME"), dataHome + QStringLiteral("/config"));
+    // In a sanitizer build the crash test's segmentation fault must reach the system as one, as in
+    // a shipped build, instead of ending in the sanitizer's own report.
+    if (env.contains(QStringLiteral("ASAN_OPTIONS")))
+        env.insert(QStringLiteral("ASAN_OPTIONS"), env.value(QStringLiteral("ASAN_OPTIONS")) + QStringLiteral(":handle_segv=0"));
     return env;
 }
 
