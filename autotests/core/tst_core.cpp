@@ -8,6 +8,7 @@
 #include "TestEnvironment.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 using Ostrel::App::CustomizationManager;
@@ -36,6 +37,10 @@ std::size_t countAtLeast(const LogCapture& log, google::LogSeverity severity)
         count += line.severity >= severity ? 1 : 0;
     return count;
 }
+
+const QFileDevice::Permissions kGroupOrOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
+                                                QFileDevice::ExeGroup | QFileDevice::ReadOther |
+                                                QFileDevice::WriteOther | QFileDevice::ExeOther;
 
 } // namespace
 
@@ -148,6 +153,60 @@ private slots:
             }
         }
         QCOMPARE(errors, 1);
+    }
+
+    // A line QSettings does not understand would be dropped by its first write: such a file is
+    // read strictly before that write and kept as it is.
+    void badLineKeepsTheFileUntouched_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("badLine"); // 0: the file is fine and takes the write
+
+        QTest::newRow("line without equals sign") << QByteArray("[General]\nname=x\njust words\n") << 3;
+        QTest::newRow("section without closing bracket") << QByteArray("a=1\n[Nags\nb=2\n") << 2;
+        QTest::newRow("key missing") << QByteArray("=value\n") << 1;
+        QTest::newRow("bad last line without newline") << QByteArray("a=1\nb") << 2;
+        QTest::newRow("comments, blanks, sections") << QByteArray("; one\n# two\n\n  [S]\n k = v \n") << 0;
+        QTest::newRow("value continued on the next line") << QByteArray("a=first\\\n  second\nb=2\n") << 0;
+        QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF[General]\na=1\r\n") << 0;
+    }
+
+    void badLineKeepsTheFileUntouched()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, badLine);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("product.ini"));
+        QVERIFY(writeFile(path, bytes));
+        LogCapture log;
+        {
+            SettingsStore store(path);
+            store.SetString("written", "yes");
+            store.SetString("again", "yes");
+            QCOMPARE(store.isReadOnly(), badLine != 0);
+        }
+        if (badLine == 0) {
+            QCOMPARE(SettingsStore(path).GetString("written", ""), std::string("yes"));
+            QCOMPARE(countAtLeast(log, google::GLOG_ERROR), std::size_t(0));
+            return;
+        }
+        QCOMPARE(readFile(path), bytes);
+        const auto errors = log.matching("(line " + std::to_string(badLine) + ")");
+        QCOMPARE(errors.size(), std::size_t(1));
+        QVERIFY(errors.front().find(path.toStdString()) != std::string::npos);
+        QCOMPARE(countAtLeast(log, google::GLOG_ERROR), std::size_t(1));
+    }
+
+    void newSettingsFileIsUserOnly()
+    {
+        QTemporaryDir dir;
+        const QString folder = dir.filePath(QStringLiteral("Org/App"));
+        const QString path = folder + QStringLiteral("/mail.ini");
+        SettingsStore(path).SetString("UserEmail", "someone@example.com");
+        QCOMPARE(QFileInfo(path).permissions() & kGroupOrOthers, QFileDevice::Permissions());
+        QCOMPARE(QFileInfo(folder).permissions() & kGroupOrOthers, QFileDevice::Permissions());
+        QCOMPARE(QFileInfo(dir.filePath(QStringLiteral("Org"))).permissions() & kGroupOrOthers,
+                 QFileDevice::Permissions());
     }
 
     void missingCustomizationGivesDefaultsAndOneWarning()
