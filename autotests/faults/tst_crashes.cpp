@@ -63,6 +63,10 @@ private slots:
         QCOMPARE(text.count(QStringLiteral("\n==== ")) + (text.startsWith(QStringLiteral("==== ")) ? 1 : 0),
                  1);
         QVERIFY2(text.contains(recordMentions), qPrintable(text));
+        // The record may quote what the user typed: it is the user's alone.
+        const QFileDevice::Permissions groupOrOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
+                                                       QFileDevice::ReadOther | QFileDevice::WriteOther;
+        QCOMPARE(records.permissions() & groupOrOthers, QFileDevice::Permissions());
     }
 };
 

@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -49,9 +50,11 @@ public:
     QString logFile() const { return dataFolder() + QStringLiteral("/logs/ostrel-host.log"); }
     QString runtimeFolder() const { return m_dir.filePath(QStringLiteral("run")); }
 
-    void start(QProcess& host, const QStringList& arguments) const
+    void start(QProcess& host, const QStringList& arguments, const QMap<QString, QString>& extra = {}) const
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        for (auto it = extra.cbegin(); it != extra.cend(); ++it)
+            env.insert(it.key(), it.value());
         env.remove(QStringLiteral("OSTREL_QT_WARNINGS_FAIL"));
         env.insert(QStringLiteral("HOME"), m_dir.path());
         env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
@@ -102,6 +105,26 @@ private slots:
         for (const QString& folder : QStringList{home.dataFolder(), QFileInfo(home.dataFolder()).path(),
                                                  home.dataFolder() + QStringLiteral("/logs")})
             QCOMPARE(QFileInfo(folder).permissions() & kGroupOrOthers, QFileDevice::Permissions());
+    }
+
+    void trackingFileIsRepairedAndRotatedByARun()
+    {
+        HostHome home;
+        // A previous run cut short in the middle of a line, past the size cap of this run.
+        const QByteArray previous = QByteArray("{\"event\":\"OLD\"}\n").repeated(100) + "{\"event\":\"CU";
+        QVERIFY(writeFile(home.trackingFile(), previous));
+
+        QProcess host;
+        home.start(host, {QStringLiteral("--no-start-nag"), QStringLiteral("--quit-after=0")},
+                   {{QStringLiteral("OSTREL_FILE_SIZE_CAP"), QString::number(previous.size())}});
+        QVERIFY2(host.waitForFinished(60000), "the host did not quit");
+
+        // The cut line was ended before the file moved aside; the run's events start a new file.
+        QCOMPARE(readFile(home.trackingFile() + QStringLiteral(".1")), previous + '\n');
+        const QList<QByteArray> lines = readFile(home.trackingFile()).split('\n');
+        QVERIFY(lines.size() > 1 && lines.last().isEmpty());
+        for (const QByteArray& line : lines.mid(0, lines.size() - 1))
+            QVERIFY2(QJsonDocument::fromJson(line).isObject(), line.constData());
     }
 
     void personalDataStaysOutOfTrackingAndLog()
