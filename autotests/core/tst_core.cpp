@@ -8,7 +8,6 @@
 #include "TestEnvironment.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 using Ostrel::App::CustomizationManager;
@@ -37,10 +36,6 @@ std::size_t countAtLeast(const LogCapture& log, google::LogSeverity severity)
         count += line.severity >= severity ? 1 : 0;
     return count;
 }
-
-const QFileDevice::Permissions kGroupOrOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
-                                                QFileDevice::ExeGroup | QFileDevice::ReadOther |
-                                                QFileDevice::WriteOther | QFileDevice::ExeOther;
 
 } // namespace
 
@@ -195,18 +190,6 @@ private slots:
         QCOMPARE(errors.size(), std::size_t(1));
         QVERIFY(errors.front().find(path.toStdString()) != std::string::npos);
         QCOMPARE(countAtLeast(log, google::GLOG_ERROR), std::size_t(1));
-    }
-
-    void newSettingsFileIsUserOnly()
-    {
-        QTemporaryDir dir;
-        const QString folder = dir.filePath(QStringLiteral("Org/App"));
-        const QString path = folder + QStringLiteral("/mail.ini");
-        SettingsStore(path).SetString("UserEmail", "someone@example.com");
-        QCOMPARE(QFileInfo(path).permissions() & kGroupOrOthers, QFileDevice::Permissions());
-        QCOMPARE(QFileInfo(folder).permissions() & kGroupOrOthers, QFileDevice::Permissions());
-        QCOMPARE(QFileInfo(dir.filePath(QStringLiteral("Org"))).permissions() & kGroupOrOthers,
-                 QFileDevice::Permissions());
     }
 
     void missingCustomizationGivesDefaultsAndOneWarning()

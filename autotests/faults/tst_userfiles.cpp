@@ -147,6 +147,10 @@ private slots:
         QVERIFY2(tracking.contains("email=***"), tracking.constData());
         const QByteArray log = readFile(home.logFile());
         QVERIFY(!log.isEmpty());
+        // The settings file the start created holds the launch state beside the user's choices.
+        const QString product = home.settingsFile(QStringLiteral("product.ini"));
+        QVERIFY(QFileInfo::exists(product));
+        QCOMPARE(QFileInfo(product).permissions() & kGroupOrOthers, QFileDevice::Permissions());
         for (const QByteArray& personal :
              {kName, QByteArray("Jane%20Roe"), QByteArray("Jane+Roe"), kAddress, QByteArray("jane.roe%40")}) {
             QVERIFY2(!tracking.contains(personal), personal.constData());

@@ -166,19 +166,6 @@ private slots:
         QCOMPARE(indexOf(older.last()) + 1, indexOf(current.first()));
     }
 
-    void trackingFileIsUserOnly()
-    {
-        QTemporaryDir dir;
-        const QString folder = dir.filePath(QStringLiteral("data"));
-        GeneralOstrelTracker tracker(folder + QStringLiteral("/tracking.jsonl"));
-        tracker.sendEvent("a", {});
-        const QFileDevice::Permissions groupOrOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
-                                                       QFileDevice::ExeGroup | QFileDevice::ReadOther |
-                                                       QFileDevice::WriteOther | QFileDevice::ExeOther;
-        QCOMPARE(QFileInfo(tracker.filePath()).permissions() & groupOrOthers, QFileDevice::Permissions());
-        QCOMPARE(QFileInfo(folder).permissions() & groupOrOthers, QFileDevice::Permissions());
-    }
-
     void fullDiskIsLoggedOnceAndNeverThrows()
     {
         // Every write to /dev/full fails as on a full disk.
