@@ -21,6 +21,8 @@
 #include "Core/MailSettingsManager.h"
 #include "Core/ProductSettingsManager.h"
 #include "Core/UserSettingsManager.h"
+#include "Foundation/AppendFile.h"
+#include "Foundation/UserOnlyFiles.h"
 #include "Interfaces/LifetimeObserver.h"
 #include "QtUtil/QtMessageRouting.h"
 #include "QtUtil/Utf8.h"
@@ -31,6 +33,8 @@
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 #include <QStandardPaths>
@@ -65,17 +69,30 @@ QString startLogFile(const CustomizationManager& customization)
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1Char('/') +
                            QString::fromStdString(customization.GetOrganizationName()) + QLatin1Char('/') +
                            QString::fromStdString(customization.GetApplicationName()) + QStringLiteral("/logs");
-    if (!QDir().mkpath(folder)) {
+    if (!Core::UserOnlyFiles::makeFolder(folder)) {
         LOG(WARNING) << "Cannot create the log folder " << Util::QStringToUtf8(folder) << ", logging to standard error";
         FLAGS_logtostderr = true;
         return QStringLiteral("<standard error>");
     }
     QString file = folder + QStringLiteral("/ostrel-host.log");
-    if (isLogFileTakenByAnotherProcess(file))
+    // Created user-only before anything else opens it; glog creates the others with logfile_mode.
+    Core::UserOnlyFiles::prepareFile(file);
+    if (isLogFileTakenByAnotherProcess(file)) {
         file = folder + QStringLiteral("/ostrel-host.%1.log").arg(QCoreApplication::applicationPid());
+    } else if (QFileInfo(file).size() > Core::AppendFile::defaultSizeCap()) {
+        // glog only starts a new file past max_log_size, and appends to the same name: the cap
+        // is kept here, once a start, as for the tracking file.
+        QFile::remove(file + QStringLiteral(".1"));
+        QFile::rename(file, file + QStringLiteral(".1"));
+    }
     FLAGS_logtostderr = false;
     FLAGS_timestamp_in_logfile_name = false;
     FLAGS_stderrthreshold = google::GLOG_WARNING;
+    // The log is the user's alone, starts afresh past 10 MB, and stops rather than fails when
+    // the disk is full.
+    FLAGS_logfile_mode = 0600;
+    FLAGS_max_log_size = 10;
+    FLAGS_stop_logging_if_full_disk = true;
     google::SetLogDestination(google::GLOG_INFO, Util::QStringToUtf8(file).c_str());
     for (const google::LogSeverity severity : {google::GLOG_WARNING, google::GLOG_ERROR, google::GLOG_FATAL})
         google::SetLogDestination(severity, "");

@@ -150,6 +150,48 @@ private slots:
         QCOMPARE(errors, 1);
     }
 
+    // A line QSettings does not understand would be dropped by its first write: such a file is
+    // read strictly before that write and kept as it is.
+    void badLineKeepsTheFileUntouched_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("badLine"); // 0: the file is fine and takes the write
+
+        QTest::newRow("line without equals sign") << QByteArray("[General]\nname=x\njust words\n") << 3;
+        QTest::newRow("section without closing bracket") << QByteArray("a=1\n[Nags\nb=2\n") << 2;
+        QTest::newRow("key missing") << QByteArray("=value\n") << 1;
+        QTest::newRow("bad last line without newline") << QByteArray("a=1\nb") << 2;
+        QTest::newRow("comments, blanks, sections") << QByteArray("; one\n# two\n\n  [S]\n k = v \n") << 0;
+        QTest::newRow("value continued on the next line") << QByteArray("a=first\\\n  second\nb=2\n") << 0;
+        QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF[General]\na=1\r\n") << 0;
+    }
+
+    void badLineKeepsTheFileUntouched()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, badLine);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("product.ini"));
+        QVERIFY(writeFile(path, bytes));
+        LogCapture log;
+        {
+            SettingsStore store(path);
+            store.SetString("written", "yes");
+            store.SetString("again", "yes");
+            QCOMPARE(store.isReadOnly(), badLine != 0);
+        }
+        if (badLine == 0) {
+            QCOMPARE(SettingsStore(path).GetString("written", ""), std::string("yes"));
+            QCOMPARE(countAtLeast(log, google::GLOG_ERROR), std::size_t(0));
+            return;
+        }
+        QCOMPARE(readFile(path), bytes);
+        const auto errors = log.matching("(line " + std::to_string(badLine) + ")");
+        QCOMPARE(errors.size(), std::size_t(1));
+        QVERIFY(errors.front().find(path.toStdString()) != std::string::npos);
+        QCOMPARE(countAtLeast(log, google::GLOG_ERROR), std::size_t(1));
+    }
+
     void missingCustomizationGivesDefaultsAndOneWarning()
     {
         QTemporaryDir dir;

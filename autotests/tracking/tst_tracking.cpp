@@ -1,3 +1,4 @@
+#include "Foundation/PersonalDataMask.h"
 #include "LogCapture.h"
 #include "RecordingTracker.h"
 #include "TestEnvironment.h"
@@ -6,6 +7,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -115,6 +117,106 @@ private slots:
             // Each thread's own events keep their order.
             QCOMPARE(params.value(QStringLiteral("i")).toString().toInt(), nextOfThread[thread]++);
         }
+    }
+
+    void tornLastLineIsEndedBeforeTheNextEvent()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("tracking.jsonl"));
+        // What a full disk or a killed process leaves: a line without its end.
+        QFile torn(path);
+        QVERIFY(torn.open(QIODevice::WriteOnly));
+        torn.write("{\"event\":\"whole\"}\n{\"event\":\"cu");
+        torn.close();
+
+        GeneralOstrelTracker tracker(path);
+        tracker.sendEvent("next", {});
+        const QList<QByteArray> lines = fileLines(path);
+        QCOMPARE(lines.size(), 3);
+        QCOMPARE(lines.at(1), QByteArray("{\"event\":\"cu"));
+        QCOMPARE(parse(lines.at(2)).value(QStringLiteral("event")).toString(), QStringLiteral("next"));
+    }
+
+    void rotatesPastTheSizeCap()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("tracking.jsonl"));
+        const qint64 cap = 1000;
+        GeneralOstrelTracker tracker(path, cap);
+        // About 75 bytes an event: the file turns over more than once.
+        for (int i = 0; i < 35; ++i)
+            tracker.sendEvent("tick", {{"I", std::to_string(i)}});
+
+        const QList<QByteArray> current = fileLines(path);
+        const QList<QByteArray> older = fileLines(path + QStringLiteral(".1"));
+        QVERIFY(QFileInfo(path).size() <= cap);
+        QVERIFY(QFileInfo(path + QStringLiteral(".1")).size() <= cap);
+        QVERIFY(!QFileInfo::exists(path + QStringLiteral(".2")));
+        // The newest events are kept, in order, across the two files.
+        QVERIFY(!current.isEmpty() && !older.isEmpty());
+        const auto indexOf = [](const QByteArray& line) {
+            return parse(line)
+                .value(QStringLiteral("params"))
+                .toObject()
+                .value(QStringLiteral("I"))
+                .toString()
+                .toInt();
+        };
+        QCOMPARE(indexOf(current.last()), 34);
+        QCOMPARE(indexOf(older.last()) + 1, indexOf(current.first()));
+    }
+
+    void fullDiskIsLoggedOnceAndNeverThrows()
+    {
+        // Every write to /dev/full fails as on a full disk.
+        if (!QFileInfo::exists(QStringLiteral("/dev/full")))
+            QSKIP("no /dev/full here");
+        Ostrel::Test::LogCapture log;
+        GeneralOstrelTracker tracker(QStringLiteral("/dev/full"));
+        for (int i = 0; i < 5; ++i)
+            tracker.sendEvent("lost", {});
+        QCOMPARE(log.matching("/dev/full").size(), std::size_t(1));
+    }
+
+    void personalDataIsMasked_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("query values of name and address")
+            << QStringLiteral("https://link.example.com/ty/"
+                              "?app=x&name=Jane%20Roe&email=jane.roe%40mail.example.org&lt=1")
+            << QStringLiteral("https://link.example.com/ty/?app=x&name=***&email=***&lt=1");
+        QTest::newRow("address in a path segment")
+            << QStringLiteral("https://example.com/u/jane.roe@mail.example.org/profile")
+            << QStringLiteral("https://example.com/u/***/profile");
+        QTest::newRow("known name in a path segment")
+            << QStringLiteral("https://example.com/hello/Jane%20Roe/")
+            << QStringLiteral("https://example.com/hello/***/");
+        QTest::newRow("percent-encoded address under another key")
+            << QStringLiteral("https://example.com/?to=jane.roe%40mail.example.org&a=1")
+            << QStringLiteral("https://example.com/?to=***&a=1");
+        QTest::newRow("plus in the address, encoded")
+            << QStringLiteral("?x=jane%2Broe%40mail.example.org") << QStringLiteral("?x=***");
+        QTest::newRow("plus for the blank of a known name")
+            << QStringLiteral("?greet=Jane+Roe&b=2") << QStringLiteral("?greet=***&b=2");
+        QTest::newRow("upper case") << QStringLiteral(
+                                           "HTTPS://EXAMPLE.COM/?NAME=JOHN&EMAIL=JANE.ROE@MAIL.EXAMPLE.ORG")
+                                    << QStringLiteral("HTTPS://EXAMPLE.COM/?NAME=***&EMAIL=***");
+        QTest::newRow("known name in other case in a log line")
+            << QStringLiteral("Opening for jane roe now") << QStringLiteral("Opening for *** now");
+        QTest::newRow("nothing personal stays")
+            << QStringLiteral("https://example.com/learn-more/?lang=en&username_hint=1")
+            << QStringLiteral("https://example.com/learn-more/?lang=en&username_hint=1");
+    }
+
+    void personalDataIsMasked()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, expected);
+        Ostrel::Core::PersonalDataMask::rememberPersonalValue(QStringLiteral("Jane Roe"));
+        QCOMPARE(Ostrel::Core::PersonalDataMask::mask(text), expected);
+        Ostrel::Core::PersonalDataMask::forgetPersonalValues();
     }
 
     void factoryHoldsWhatWasInstalled()

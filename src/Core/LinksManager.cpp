@@ -1,5 +1,6 @@
 #include "Core/LinksManager.h"
 
+#include "Foundation/PersonalDataMask.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IHardwareInfo.h"
 #include "Interfaces/IInstallerSettingsManager.h"
@@ -103,6 +104,14 @@ public:
         return result;
     }
 
+    // A personal value is masked wherever the shell records a URL that carries it, whatever
+    // part of the URL a customized template puts it in.
+    static QString personal(const QString& value)
+    {
+        Core::PersonalDataMask::rememberPersonalValue(value);
+        return encoded(value);
+    }
+
     // The value of a built-in macro, already in its final form; nothing for an unknown name.
     std::optional<QString> macro(const QString& name) const
     {
@@ -115,9 +124,9 @@ public:
         if (name == QLatin1String("-APP_VERSION-"))
             return encoded(version());
         if (name == QLatin1String("-NAME-"))
-            return encoded(fromUtf8(mailSettings->GetString("UserName", std::string())));
+            return personal(fromUtf8(mailSettings->GetString("UserName", std::string())));
         if (name == QLatin1String("-EMAIL-"))
-            return encoded(fromUtf8(mailSettings->GetString("UserEmail", std::string())));
+            return personal(fromUtf8(mailSettings->GetString("UserEmail", std::string())));
         if (name == QLatin1String("-NEWSLETTER_CONFIRMED-"))
             return boolText(mailSettings->GetBool("isConfirmed", false));
         if (name == QLatin1String("-ADDITIONALS_INSTALLED-"))
@@ -256,12 +265,12 @@ void LinksManager::OpenUrl(const QString& url) const
 {
     const QUrl target(url);
     if (url.isEmpty() || !target.isValid()) {
-        LOG(WARNING) << "Not opening the link \"" << toUtf8(url) << "\": "
-                     << (url.isEmpty() ? std::string("it is empty") : toUtf8(target.errorString()));
+        LOG(WARNING) << "Not opening the link \"" << toUtf8(Core::PersonalDataMask::mask(url))
+                     << "\": " << (url.isEmpty() ? std::string("it is empty") : toUtf8(target.errorString()));
         return;
     }
     if (!QDesktopServices::openUrl(target))
-        LOG(WARNING) << "Nothing opened the link " << toUtf8(url);
+        LOG(WARNING) << "Nothing opened the link " << toUtf8(Core::PersonalDataMask::mask(url));
 }
 
 void LinksManager::OpenUrl(URLKeys key) const

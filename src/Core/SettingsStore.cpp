@@ -1,5 +1,6 @@
 #include "Core/SettingsStore.h"
 #include "Core/SettingsText_p.h"
+#include "Foundation/UserOnlyFiles.h"
 
 #include <glog/logging.h>
 
@@ -61,9 +62,13 @@ public:
         }
         if (broken) {
             readOnly = true;
-            LOG(ERROR)
-                << "Settings file " << toUtf8(path)
-                << " is unreadable or broken; it is left untouched and nothing is saved to it in this run";
+            QFile file(path);
+            const std::optional<int> badLine = file.open(QIODevice::ReadOnly)
+                                                   ? SettingsText::firstMalformedLine(file.readAll())
+                                                   : std::nullopt;
+            LOG(ERROR) << "Settings file " << toUtf8(path) << " is unreadable or broken"
+                       << (badLine ? " (line " + std::to_string(*badLine) + ")" : std::string())
+                       << "; it is left untouched and nothing is saved to it in this run";
         }
     }
 
@@ -97,12 +102,39 @@ public:
     {
         if (!checkKey(key, "write"))
             return false;
+        if (!writeChecked && !readOnly) {
+            writeChecked = true;
+            checkBeforeFirstWrite();
+        }
         if (readOnly) {
             LOG(WARNING) << "Settings write of \"" << key << "\" ignored: " << toUtf8(filePath)
                          << " is kept untouched in this run";
             return false;
         }
         return true;
+    }
+
+    // QSettings reads sections lazily and drops what it does not understand, so a line it can
+    // not parse would be gone at the first write. The whole file is read strictly once instead,
+    // and a file that fails stays as it is.
+    void checkBeforeFirstWrite()
+    {
+        QFile file(filePath);
+        if (!file.exists()) {
+            // Created user-only before QSettings writes it: its atomic save keeps the mode of the
+            // file it replaces.
+            if (!Core::UserOnlyFiles::prepareFile(filePath))
+                LOG(WARNING) << "Settings file " << toUtf8(filePath) << " could not be created user-only";
+            return;
+        }
+        if (!file.open(QIODevice::ReadOnly))
+            return; // reported at opening
+        const std::optional<int> badLine = SettingsText::firstMalformedLine(file.readAll());
+        if (!badLine)
+            return;
+        readOnly = true;
+        LOG(ERROR) << "Settings file " << toUtf8(filePath) << " has a line that is not a setting (line "
+                   << *badLine << "); it is left untouched and nothing is saved to it in this run";
     }
 
     void write(const std::string& key, const QVariant& value)
@@ -114,7 +146,9 @@ public:
     void flush()
     {
         settings.sync();
-        if (settings.status() != QSettings::NoError && !writeErrorReported) {
+        // A FormatError here only says that the re-read file had a line QSettings skipped (a "#"
+        // comment); the write itself went through.
+        if (settings.status() == QSettings::AccessError && !writeErrorReported) {
             writeErrorReported = true;
             LOG(ERROR) << "Settings file " << toUtf8(filePath) << " could not be written";
         }
@@ -133,6 +167,7 @@ public:
     mutable QSettings settings;
     mutable std::recursive_mutex mutex;
     bool readOnly = false;
+    bool writeChecked = false;
     bool writeErrorReported = false;
 };
 

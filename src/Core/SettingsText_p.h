@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <optional>
@@ -8,5 +9,10 @@ namespace Ostrel::App::SettingsText {
 
 /// "true"/"1" and "false"/"0" in any case and with blanks around; anything else is no answer.
 std::optional<bool> parseBool(const QString& text);
+
+/// The number (from 1) of the first line of INI text that is none of: empty, a comment (";" or
+/// "#"), a "[section]", a "key=value" or the continuation of a value ending in "\\". Nothing when
+/// every line is one of them.
+std::optional<int> firstMalformedLine(const QByteArray& text);
 
 } // namespace Ostrel::App::SettingsText

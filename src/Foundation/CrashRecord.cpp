@@ -1,15 +1,17 @@
 #include "Foundation/CrashRecord.h"
 
+#include "Foundation/AppendFile.h"
+
+#include <boost/core/demangle.hpp>
 #include <boost/exception/diagnostic_information.hpp>
 #include <glog/logging.h>
 
 #include <QByteArray>
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <cxxabi.h>
 #include <exception>
 #include <mutex>
 
@@ -21,59 +23,95 @@ namespace {
 // several lines can still be told apart.
 constexpr char kRecordMarker[] = "==== ";
 
+// The exception this thread recorded last. Held, not just compared by address, so that its
+// object can not die and another exception be born at the same address.
+std::exception_ptr& lastRecorded()
+{
+    thread_local std::exception_ptr recorded;
+    return recorded;
+}
+
 std::string currentExceptionText()
 {
-    // boost's diagnostics rethrow the current exception to examine it; with none in flight
-    // that rethrow would terminate the process.
+    // Examining the exception means rethrowing it; with none in flight that rethrow would
+    // terminate the process.
     if (!std::current_exception())
         return "no exception in flight";
-    std::string text = boost::current_exception_diagnostic_information(true);
+    std::string text;
+    try {
+        throw;
+    } catch (const std::exception&) {
+        text = boost::current_exception_diagnostic_information(true);
+    } catch (const boost::exception&) {
+        text = boost::current_exception_diagnostic_information(true);
+    } catch (...) {
+        // No text to tell, only the type: the ABI of GCC and Clang (MinGW included) knows it.
+        const std::type_info* type = abi::__cxa_current_exception_type();
+        text = "Exception of type " + (type ? boost::core::demangle(type->name()) : std::string("<unknown>"));
+    }
     while (!text.empty() && text.back() == '\n')
         text.pop_back();
     return text;
 }
 
-// Returns an empty string on success, the reason otherwise.
-QString appendRecord(const QByteArray& record)
+std::terminate_handler& previousTerminateHandler()
 {
-    const QString path = CrashRecordPath().toQString();
-    // Without a home folder Qt has no data location; a relative path would land in whatever
-    // the current folder happens to be.
-    if (QFileInfo(path).isRelative())
-        return QStringLiteral("no application data folder");
-    const QString folder = QFileInfo(path).absolutePath();
-    if (!QDir().mkpath(folder))
-        return QStringLiteral("cannot create folder ") + folder;
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
-        return file.errorString();
-    // One unbuffered write per record keeps records from different processes from interleaving.
-    if (file.write(record) != record.size())
-        return file.errorString();
-    return QString();
+    static std::terminate_handler previous = nullptr;
+    return previous;
+}
+
+[[noreturn]] void recordAndTerminate()
+{
+    // Two threads that terminate together would otherwise both write; the first one ends it.
+    static std::once_flag recordOnce;
+    std::call_once(recordOnce, []() { TrackCurrentException("std::terminate"); });
+    if (const std::terminate_handler previous = previousTerminateHandler())
+        previous();
+    std::abort();
 }
 
 } // namespace
 
-void TrackCurrentException() noexcept
+void TrackCurrentException(const std::string& context) noexcept
 {
     try {
+        if (CurrentExceptionRecorded())
+            return;
+        lastRecorded() = std::current_exception();
         const std::string text = currentExceptionText();
-        LOG(ERROR) << "Exception recorded: " << text;
+        LOG(ERROR) << "Exception recorded" << (context.empty() ? "" : " (" + context + ")") << ": " << text;
 
         const QByteArray stamp = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs).toUtf8();
-        const QByteArray record = kRecordMarker + stamp + '\n' + QByteArray::fromStdString(text) + '\n';
+        QByteArray record = kRecordMarker + stamp + '\n';
+        if (!context.empty())
+            record += QByteArray::fromStdString(context) + '\n';
+        record += QByteArray::fromStdString(text) + '\n';
 
+        const QString path = CrashRecordPath().toQString();
         static std::mutex fileMutex;
         std::lock_guard<std::mutex> lock(fileMutex);
-        const QString failure = appendRecord(record);
-        if (!failure.isEmpty())
-            LOG(ERROR) << "Could not write the crash record to " << CrashRecordPath().utf8() << ": "
-                       << failure.toStdString();
+        // Without a home folder Qt has no data location; a relative path would land in whatever
+        // the current folder happens to be.
+        const bool written = !QFileInfo(path).isRelative() && AppendFile(path).append(record);
+        if (!written)
+            LOG(ERROR) << "Could not write the crash record to " << CrashRecordPath().utf8();
     } catch (...) {
         // Out of memory, most likely: nothing more can be done safely than saying so.
         LOG(ERROR) << "Could not record the exception in flight";
     }
+}
+
+bool CurrentExceptionRecorded() noexcept
+{
+    const std::exception_ptr current = std::current_exception();
+    return current && current == lastRecorded();
+}
+
+void InstallTerminateRecorder() noexcept
+{
+    static std::once_flag installOnce;
+    std::call_once(installOnce,
+                   []() { previousTerminateHandler() = std::set_terminate(recordAndTerminate); });
 }
 
 ioPath CrashRecordPath()

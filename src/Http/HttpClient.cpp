@@ -1,5 +1,7 @@
 #include "Http/HttpClient.h"
 
+#include "Foundation/PersonalDataMask.h"
+
 #include <glog/logging.h>
 
 #include <QNetworkAccessManager>
@@ -53,7 +55,7 @@ void HttpClient::send(const HttpRequest& request, Callback done)
     const QString scheme = url.scheme();
     if (!url.isValid() || (scheme != QLatin1String("http") && scheme != QLatin1String("https"))) {
         const std::string error = "invalid URL \"" + request.url + "\"";
-        LOG(WARNING) << "HTTP request not sent: " << error;
+        LOG(WARNING) << "HTTP request not sent: " << Core::PersonalDataMask::mask(error);
         QTimer::singleShot(0, &d->guard, [done = std::move(done), error]() {
             HttpResponse response;
             response.error = error;
@@ -91,7 +93,8 @@ void HttpClient::send(const HttpRequest& request, Callback done)
         else if (reply->error() != QNetworkReply::NoError)
             response.error = toUtf8(reply->errorString());
         if (!response.error.empty())
-            VLOG(1) << "HTTP request to " << toUtf8(reply->url().toString()) << " failed: " << response.error;
+            VLOG(1) << "HTTP request to " << Core::PersonalDataMask::mask(toUtf8(reply->url().toString()))
+                    << " failed: " << Core::PersonalDataMask::mask(response.error);
         done(response);
     });
 }

@@ -1,5 +1,7 @@
 #include "QtUtil/QtMessageRouting.h"
 
+#include "Foundation/PersonalDataMask.h"
+
 #include <glog/logging.h>
 
 #include <QByteArray>
@@ -31,7 +33,8 @@ google::LogSeverity severityOf(QtMsgType type)
 
 void routeToGlog(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    const QByteArray text = message.toUtf8();
+    // Qt's own messages may quote a URL that carries the user's name or address.
+    const QByteArray text = Core::PersonalDataMask::mask(message).toUtf8();
     // Release builds of Qt leave the file out of the context; the log line still needs a source.
     const char* file = context.file ? context.file : "qt";
     {

@@ -1,16 +1,11 @@
 #include "Tracking/GeneralOstrelTracker.h"
 
-#include <glog/logging.h>
+#include "Foundation/AppendFile.h"
 
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStandardPaths>
-
-#include <mutex>
 
 namespace Ostrel::Tracking {
 
@@ -34,29 +29,14 @@ QString timestamp()
 class GeneralOstrelTracker::Impl
 {
 public:
-    bool ensureOpen()
-    {
-        if (file.isOpen())
-            return true;
-        QDir().mkpath(QFileInfo(file.fileName()).absolutePath());
-        if (file.open(QIODevice::WriteOnly | QIODevice::Append))
-            return true;
-        if (!openFailureReported) {
-            openFailureReported = true;
-            LOG(WARNING) << "Tracking file " << file.fileName().toStdString() << " can not be opened ("
-                         << file.errorString().toStdString() << "); events are dropped";
-        }
-        return false;
-    }
+    Impl(const QString& path, qint64 sizeCap) : file(path, sizeCap) {}
 
-    std::mutex mutex;
-    QFile file;
-    bool openFailureReported = false;
+    Core::AppendFile file;
 };
 
-GeneralOstrelTracker::GeneralOstrelTracker(const QString& filePath) : d(std::make_unique<Impl>())
+GeneralOstrelTracker::GeneralOstrelTracker(const QString& filePath, qint64 sizeCap)
+    : d(std::make_unique<Impl>(filePath.isEmpty() ? defaultFilePath() : filePath, sizeCap))
 {
-    d->file.setFileName(filePath.isEmpty() ? defaultFilePath() : filePath);
 }
 
 GeneralOstrelTracker::~GeneralOstrelTracker() = default;
@@ -69,7 +49,7 @@ QString GeneralOstrelTracker::defaultFilePath()
 
 QString GeneralOstrelTracker::filePath() const
 {
-    return d->file.fileName();
+    return d->file.filePath();
 }
 
 void GeneralOstrelTracker::sendEvent(const std::string& name,
@@ -82,17 +62,8 @@ void GeneralOstrelTracker::sendEvent(const std::string& name,
     event.insert(QStringLiteral("time"), timestamp());
     event.insert(QStringLiteral("event"), fromUtf8(name));
     event.insert(QStringLiteral("params"), jsonParams);
-    const QByteArray line = QJsonDocument(event).toJson(QJsonDocument::Compact) + '\n';
-
-    std::lock_guard<std::mutex> lock(d->mutex);
-    if (!d->ensureOpen())
-        return;
-    // One write and a flush per line: a reader never sees half an event, and a crash loses none.
-    if (d->file.write(line) != line.size() || !d->file.flush()) {
-        LOG(WARNING) << "Tracking event \"" << name << "\" could not be written to "
-                     << d->file.fileName().toStdString() << ": " << d->file.errorString().toStdString();
-        d->file.close();
-    }
+    // The file writes the line whole, or not at all and says so once.
+    d->file.append(QJsonDocument(event).toJson(QJsonDocument::Compact) + '\n');
 }
 
 } // namespace Ostrel::Tracking

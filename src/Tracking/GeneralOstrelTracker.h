@@ -13,13 +13,15 @@ namespace Ostrel::Tracking {
 ///   {"event":"<name>","params":{"<key>":"<value>",...},"time":"2024-05-01T12:00:00.123+02:00"}
 /// (ISO-8601 local time with milliseconds and offset; "Z" when the offset is zero). Whatever ships
 /// the events elsewhere reads this file. Safe to call from several threads: lines never interleave.
-/// When the file can not be opened the event is dropped and one WARNING line says so (the first
-/// time only, so that a read-only disk does not flood the log); later events try again.
+/// The file is an Ostrel::Core::AppendFile: user-only, each line written whole, a cut last line
+/// ended before the next, renamed to "tracking.jsonl.1" past its size cap. An event that can not
+/// be written is dropped; one WARNING line says so until writing works again.
 class OSTREL_TRACKING_EXPORT GeneralOstrelTracker : public IApplicationTracker
 {
 public:
     /// Writes to `filePath`, creating its folder when needed; empty for defaultFilePath().
-    explicit GeneralOstrelTracker(const QString& filePath = QString());
+    /// `sizeCap` in bytes, 0 for the default of AppendFile.
+    explicit GeneralOstrelTracker(const QString& filePath = QString(), qint64 sizeCap = 0);
     ~GeneralOstrelTracker() override;
 
     /// <AppLocalDataLocation>/tracking.jsonl.

@@ -72,6 +72,9 @@ Application::Application(int& argc, char** argv, const std::shared_ptr<ILifetime
     set<ILifetimeManager>(lifetimeManager);
     set<ExternalStimulus::IGateway>(std::make_shared<ExternalStimulus::DirectCallGateway>());
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+    // Exceptions that no handler takes (a thread's, a destructor's, a non-std one) still leave a
+    // crash record before the process ends.
+    Core::InstallTerminateRecorder();
 }
 
 // The private part goes first (member before bases), releasing the application mutex; then
@@ -225,6 +228,10 @@ bool Application::notify(QObject* receiver, QEvent* event)
             LogUserAction(receiver, event);
         return QApplication::notify(receiver, event);
     } catch (const std::exception& exception) {
+        // An exception that crosses nested event loops passes one notify frame per loop: the
+        // innermost one, which knows the receiver, recorded it; the others only pass it on.
+        if (Core::CurrentExceptionRecorded())
+            throw;
         const std::string receiverClass = receiver ? boost::core::demangle(typeid(*receiver).name()) : "<NULL>";
         const std::string eventClass = boost::core::demangle(typeid(*event).name());
         const char* typeName = QMetaEnum::fromType<QEvent::Type>().valueToKey(event->type());
@@ -233,7 +240,9 @@ bool Application::notify(QObject* receiver, QEvent* event)
                    << "\tEvent class: " << eventClass << ". Event type: QEvent::" << (typeName ? typeName : "")
                    << "\n"
                    << "\tException details: " << boost::diagnostic_information(exception, true);
-        Core::TrackCurrentException();
+        const std::string receiverName = receiver ? receiver->objectName().toStdString() : std::string();
+        Core::TrackCurrentException("Receiver: " + receiverClass + " \"" + receiverName +
+                                    "\"; event: QEvent::" + (typeName ? typeName : ""));
         throw;
     }
 }

@@ -1,6 +1,7 @@
 #include "App/Application/URLHandler.h"
 
 #include "App/Application/PreferredBrowser.h"
+#include "Foundation/PersonalDataMask.h"
 #include "QtUtil/Utf8.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
@@ -11,7 +12,13 @@ namespace Ostrel::App {
 
 namespace {
 const char* const Slot = "OpenURLWithPreferredBrowser";
+
+// The browser gets the whole URL; tracking never gets the user's name or address.
+std::string recorded(const QString& part)
+{
+    return Util::QStringToUtf8(Core::PersonalDataMask::mask(part));
 }
+} // namespace
 
 URLHandler::URLHandler(QObject* parent, PreferredBrowser& browser)
     : QObject(parent)
@@ -54,10 +61,10 @@ void URLHandler::OpenURLWithPreferredBrowser(const QUrl& url)
                                        {"STATUS", opened ? "SUCCESS" : "FAIL"},
                                        {"BROWSER_PATH", Util::QStringToUtf8(path)},
                                        {"DEFAULT_BROWSER", systemDefault ? "YES" : "NO"},
-                                       {"NAVIGATE_URL", Util::QStringToUtf8(url.toString())},
-                                       {"SOURCE", Util::QStringToUtf8(url.host(QUrl::FullyDecoded))},
-                                       {"URI", Util::QStringToUtf8(url.path(QUrl::FullyDecoded))},
-                                       {"ARGS", Util::QStringToUtf8(url.query())},
+                                       {"NAVIGATE_URL", recorded(url.toString())},
+                                       {"SOURCE", recorded(url.host(QUrl::FullyDecoded))},
+                                       {"URI", recorded(url.path(QUrl::FullyDecoded))},
+                                       {"ARGS", recorded(url.query())},
                                    });
 }
 

@@ -3,6 +3,7 @@
 #include "App/Application/ITopManager.h"
 #include "App/Application/NagScreen/DefaultActions.h"
 #include "Events/NotNull.h"
+#include "Foundation/PersonalDataMask.h"
 #include "Interfaces/ILinksManager.h"
 #include "Interfaces/ILookAndFeelManager.h"
 #include "Nag/AbstractContent.h"
@@ -58,7 +59,8 @@ void ReadLink(Params& map, const QString& urlText, const QString& fallbackId)
 {
     const QUrl url(urlText, QUrl::TolerantMode);
     const QUrlQuery query(url);
-    map["NAG_LINK_URL"] = utf8(url.toDisplayString());
+    // A nag link may carry the user's name or address; tracking gets it masked.
+    map["NAG_LINK_URL"] = utf8(Core::PersonalDataMask::mask(url.toDisplayString()));
     map["NAG_LINK_ID"] = utf8(query.hasQueryItem(QStringLiteral("link_id")) ? query.queryItemValue(QStringLiteral("link_id"))
                                                                             : fallbackId);
     map["NAG_ASRC"] = query.hasQueryItem(QStringLiteral("asrc")) ? utf8(query.queryItemValue(QStringLiteral("asrc")))

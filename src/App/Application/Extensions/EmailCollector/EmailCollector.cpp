@@ -3,6 +3,7 @@
 #include "Email/EmailDialogCreator.h"
 #include "Email/EmailSender.h"
 #include "Events/NotNull.h"
+#include "Foundation/PersonalDataMask.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IGateway.h"
 #include "Interfaces/IHttpClient.h"
@@ -120,8 +121,9 @@ void EmailCollector::sendUserEmail() const
     d->sendResult = std::promise<int>();
     Impl* impl = d.get();
     d->sender->SendEmail({}, [impl](bool success, const std::string& message) {
+        // The HTTP error may quote the request URL, which carries the name and the address.
         if (!success)
-            LOG(ERROR) << message;
+            LOG(ERROR) << Core::PersonalDataMask::mask(message);
         // A second fulfilment raises here; the sender catches and logs it.
         impl->sendResult.set_value(1);
     });

@@ -1,0 +1,74 @@
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+// Each row runs the crash probe in a fresh home and reads the crash records it left.
+class TestCrashes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void oneRecordPerException_data()
+    {
+        QTest::addColumn<QString>("scenario");
+        QTest::addColumn<QString>("recordMentions");
+        QTest::addColumn<bool>("aborts"); // else it ends with 3, having caught the rethrown exception
+
+        // The exception crosses the notify frames of the dialog's loop and of the main loop; the
+        // innermost one, the only one that knows the receiver, records it.
+        QTest::newRow("exception inside a modal loop")
+            << QStringLiteral("nested") << QStringLiteral("innerReceiver") << false;
+        QTest::newRow("non-std exception reaches terminate")
+            << QStringLiteral("terminate") << QStringLiteral("type int") << true;
+        QTest::newRow("exception escapes a thread")
+            << QStringLiteral("thread") << QStringLiteral("failure in a thread") << true;
+    }
+
+    void oneRecordPerException()
+    {
+        QFETCH(QString, scenario);
+        QFETCH(QString, recordMentions);
+        QFETCH(bool, aborts);
+
+        QTemporaryDir home;
+        QVERIFY(home.isValid());
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        // Qt complains about exceptions in event handlers, which is the point here.
+        env.remove(QStringLiteral("OSTREL_QT_WARNINGS_FAIL"));
+        env.insert(QStringLiteral("HOME"), home.path());
+        env.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("data")));
+        env.insert(QStringLiteral("XDG_CONFIG_HOME"), home.filePath(QStringLiteral("config")));
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        QProcess probe;
+        probe.setProcessEnvironment(env);
+        probe.start(QStringLiteral(CRASH_PROBE), {scenario});
+        QVERIFY2(probe.waitForFinished(60000), "the probe did not end");
+
+        if (aborts) {
+            QCOMPARE(probe.exitStatus(), QProcess::CrashExit);
+            QCOMPARE(probe.exitCode(), SIGABRT);
+        } else {
+            QCOMPARE(probe.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(probe.exitCode(), 3);
+        }
+        const QString output = QString::fromUtf8(probe.readAllStandardOutput());
+        const QRegularExpressionMatch path =
+            QRegularExpression(QStringLiteral("crashRecord=(.*)")).match(output);
+        QVERIFY2(path.hasMatch(), qPrintable(output));
+        QFile records(path.captured(1).trimmed());
+        QVERIFY2(records.open(QIODevice::ReadOnly), qPrintable(records.fileName()));
+        const QString text = QString::fromUtf8(records.readAll());
+        QCOMPARE(text.count(QStringLiteral("\n==== ")) + (text.startsWith(QStringLiteral("==== ")) ? 1 : 0),
+                 1);
+        QVERIFY2(text.contains(recordMentions), qPrintable(text));
+        // The record may quote what the user typed: it is the user's alone.
+        const QFileDevice::Permissions groupOrOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
+                                                       QFileDevice::ReadOther | QFileDevice::WriteOther;
+        QCOMPARE(records.permissions() & groupOrOthers, QFileDevice::Permissions());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCrashes)
+#include "tst_crashes.moc"
