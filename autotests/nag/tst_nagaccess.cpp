@@ -5,6 +5,7 @@
 
 #include "App/Application/NagScreen/DefaultActions.h"
 #include "App/Application/NagScreen/NagLinksOpener.h"
+#include "App/Application/NagScreen/ProductNagHosts.h"
 #include "Core/LinksManager.h"
 #include "Interfaces/ILinksOpener.h"
 #include "Nag/IWebNagUrlGenerator.h"
@@ -286,6 +287,38 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(nag->property("result").toString() != QLatin1String("pending"), 10000);
         // The status of a file read differs between Qt versions; the text is what matters.
         QCOMPARE(nag->property("result").toString().section(QLatin1Char(':'), 1), expected);
+    }
+
+    void productNagHosts_data()
+    {
+        QTest::addColumn<QString>("messagesHost"); // "Hosts/messages"; empty: the built-in one
+        QTest::addColumn<QString>("customWebNag"); // "Links/CUSTOM_WEB_NAG_URL"
+        QTest::addColumn<QStringList>("hosts");
+        QTest::newRow("built-in") << ""
+                                  << "" << QStringList{QStringLiteral("msg.ostrel.com")};
+        QTest::newRow("customized, with a port") << "Nags.Example.com:8443"
+                                                 << "" << QStringList{QStringLiteral("nags.example.com")};
+        QTest::newRow("a custom web nag")
+            << ""
+            << "https://web.example.org/nag/?lang=-LANG-"
+            << QStringList{QStringLiteral("msg.ostrel.com"), QStringLiteral("web.example.org")};
+        QTest::newRow("a custom web nag on the same host")
+            << "nags.example.com"
+            << "https://nags.example.com/other/" << QStringList{QStringLiteral("nags.example.com")};
+    }
+    void productNagHosts()
+    {
+        QFETCH(QString, messagesHost);
+        QFETCH(QString, customWebNag);
+        QFETCH(QStringList, hosts);
+        FakeCustomization customization;
+        // Other endpoints are no nag hosts.
+        customization.custom["Hosts/links"] = "links.example.com";
+        if (!messagesHost.isEmpty())
+            customization.custom["Hosts/messages"] = messagesHost.toStdString();
+        if (!customWebNag.isEmpty())
+            customization.custom["Links/CUSTOM_WEB_NAG_URL"] = customWebNag.toStdString();
+        QCOMPARE(ProductNagHosts(customization), hosts);
     }
 
     void nagLinksOpenOnlyWebPagesAndMail_data()
