@@ -8,6 +8,7 @@
 #include "App/Application/NagScreen/NagScreenEventHandler.h"
 #include "App/Application/NagScreen/NagScreenTestForm.h"
 #include "App/Application/NagScreen/NotificationStrategy.h"
+#include "App/Application/NagScreen/ProductNagHosts.h"
 #include "App/Application/NagScreen/WebNagUrlGenerator.h"
 #include "Core/ProductSettingsManager.h"
 #include "Interfaces/IHttpClient.h"
@@ -19,6 +20,7 @@
 #include "Nag/DefaultNagsSettings.h"
 #include "Nag/NagContext.h"
 #include "Nag/NagManager.h"
+#include "QtUtil/UrlProtocol.h"
 #include "QtUtil/Utf8.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
@@ -148,6 +150,9 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     d->manager = std::make_shared<NagScreen::NagManager>(settings);
     d->manager->SetNagsSettings(nagsSettings);
     d->manager->SetAppMode(NagScreen::AppMode::Free());
+    // The nags' QML reaches only the product's nag server; plain http only while a test run has SSL off.
+    if (const auto customization = application.GetCustomizationManager())
+        d->manager->SetAccessRules({NagScreen::ProductNagHosts(*customization), !Util::DefaultSslUsage()});
     // The nags speak the language of the look and feel, which the user may switch at any time.
     d->manager->SetLocaleProvider([app = &application]() {
         const auto lookAndFeel = app->GetLookAndFeel();

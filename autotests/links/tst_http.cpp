@@ -7,12 +7,14 @@
 #include "Http/HttpClient.h"
 
 #include "Fakes.h"
+#include "LogCapture.h"
 #include "TestEnvironment.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QUrlQuery>
 
 using namespace Ostrel;
 using namespace Ostrel::App;
@@ -85,6 +87,61 @@ public:
 
 private:
     QTcpServer m_server;
+};
+
+// Answers by path, for the body cap and the redirects: "/body?size=N" sends N bytes, "/endless"
+// sends until the client hangs up, "/announced" announces more than any cap and sends nothing,
+// "/redirect?to=X" sends 302 to X, "/final" says "landed". A minimal stand-in until the shared
+// test server lands.
+class ScriptedServer : public QTcpServer
+{
+public:
+    QStringList paths;
+
+    ScriptedServer()
+    {
+        connect(this, &QTcpServer::newConnection, this, [this]() {
+            while (QTcpSocket* socket = nextPendingConnection())
+                connect(socket, &QTcpSocket::readyRead, socket, [this, socket]() { answer(socket); });
+        });
+        listen(QHostAddress::LocalHost);
+    }
+    std::string url(const QString& path) const
+    {
+        return QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(path).toStdString();
+    }
+
+private:
+    void answer(QTcpSocket* socket)
+    {
+        const QUrl target(QString::fromLatin1(socket->readAll().split(' ').value(1)));
+        paths << target.path();
+        const QUrlQuery query(target);
+        if (target.path() == QLatin1String("/endless")) {
+            socket->write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n");
+            // Another 64 KiB whenever the last went out, for as long as the client reads.
+            const auto more = [socket]() {
+                if (socket->bytesToWrite() == 0 && socket->state() == QAbstractSocket::ConnectedState)
+                    socket->write(QByteArray(64 * 1024, 'x'));
+            };
+            connect(socket, &QTcpSocket::bytesWritten, socket, more);
+            more();
+            return;
+        }
+        QByteArray head = "HTTP/1.1 200 OK";
+        QByteArray body;
+        if (target.path() == QLatin1String("/body"))
+            body = QByteArray(query.queryItemValue(QStringLiteral("size")).toInt(), 'x');
+        else if (target.path() == QLatin1String("/final"))
+            body = "landed";
+        else if (target.path() == QLatin1String("/redirect"))
+            head = "HTTP/1.1 302 Found\r\nLocation: " +
+                   query.queryItemValue(QStringLiteral("to"), QUrl::FullyDecoded).toUtf8();
+        const QByteArray length =
+            target.path() == QLatin1String("/announced") ? "1000000000" : QByteArray::number(body.size());
+        socket->write(head + "\r\nContent-Length: " + length + "\r\nConnection: close\r\n\r\n" + body);
+        socket->disconnectFromHost();
+    }
 };
 
 } // namespace
@@ -222,6 +279,79 @@ private slots:
         request.url = "file:///etc/passwd";
         response = sendAndWait(client, request);
         QVERIFY(response.error.find("invalid URL") == 0);
+    }
+
+    void bodiesAreCapped_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("cap");
+        QTest::addColumn<bool>("cut");
+        QTest::newRow("under the cap") << "/body?size=1000" << 1001 << false;
+        QTest::newRow("exactly the cap") << "/body?size=100000" << 100000 << false;
+        QTest::newRow("one byte over") << "/body?size=100001" << 100000 << true;
+        QTest::newRow("endless") << "/endless" << 1000000 << true;
+        QTest::newRow("announced beyond the default cap") << "/announced" << 0 << true;
+    }
+    void bodiesAreCapped()
+    {
+        QFETCH(QString, path);
+        QFETCH(int, cap);
+        QFETCH(bool, cut);
+        ScriptedServer server;
+        Networking::HttpClient client;
+        Networking::HttpRequest request;
+        request.url = server.url(path);
+        if (cap > 0)
+            request.maxBodyBytes = static_cast<std::size_t>(cap);
+        LogCapture log;
+        const auto response = sendAndWait(client, request);
+        QCOMPARE(response.status, 200);
+        if (!cut) {
+            QCOMPARE(response.error, std::string());
+            QCOMPARE(response.body.size(),
+                     size_t(QUrlQuery(QUrl(path)).queryItemValue(QStringLiteral("size")).toInt()));
+            return;
+        }
+        const std::string expected =
+            "response body larger than " + std::to_string(request.maxBodyBytes) + " bytes";
+        QCOMPARE(response.error, expected);
+        QVERIFY(response.body.empty());
+        QCOMPARE(log.matching(expected).size(), size_t(1));
+    }
+
+    void redirectsGoOnlyToTheWeb_data()
+    {
+        QTest::addColumn<QString>("to"); // "%BASE%" is the server
+        QTest::addColumn<bool>("followed");
+        QTest::newRow("to a local file") << "file:///etc/passwd" << false;
+        QTest::newRow("to ftp") << "ftp://127.0.0.1/pub/file" << false;
+        QTest::newRow("to another program") << "ostrel-other:run" << false;
+        QTest::newRow("to http") << "%BASE%/final" << true;
+        QTest::newRow("relative") << "/final" << true;
+    }
+    void redirectsGoOnlyToTheWeb()
+    {
+        QFETCH(QString, to);
+        QFETCH(bool, followed);
+        ScriptedServer server;
+        to.replace(QLatin1String("%BASE%"), QString::fromStdString(server.url(QString())));
+        Networking::HttpClient client;
+        Networking::HttpRequest request;
+        request.url =
+            server.url(QStringLiteral("/redirect?to=") + QString::fromLatin1(QUrl::toPercentEncoding(to)));
+        LogCapture log;
+        const auto response = sendAndWait(client, request);
+        if (followed) {
+            QCOMPARE(response.error, std::string());
+            QCOMPARE(response.body, std::string("landed"));
+            QCOMPARE(server.paths, (QStringList{QStringLiteral("/redirect"), QStringLiteral("/final")}));
+            return;
+        }
+        const std::string expected = "redirect to " + to.toStdString() + " refused";
+        QVERIFY2(response.error.find(expected) == 0, response.error.c_str());
+        QVERIFY(response.body.empty());
+        QCOMPARE(log.matching(expected).size(), size_t(1));
+        QCOMPARE(server.paths, QStringList{QStringLiteral("/redirect")});
     }
 };
 

@@ -181,6 +181,8 @@ private Q_SLOTS:
         ContentEnvironment environment;
         environment.urlGenerator = generator();
         environment.webTimeoutMs = 10000;
+        environment.access.hosts = QStringList{QStringLiteral("127.0.0.1")};
+        environment.access.allowHttp = true;
         WebQuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
                                 QUrl(QStringLiteral("http://127.0.0.1:1/unused.qml")), environment);
         content.Load();

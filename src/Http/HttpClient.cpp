@@ -11,6 +11,9 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <algorithm>
+#include <climits>
+
 namespace Ostrel::Networking {
 
 namespace {
@@ -19,6 +22,63 @@ std::string toUtf8(const QString& text)
 {
     return text.toUtf8().toStdString();
 }
+
+// For log lines and errors: the query is left out, since that is where a request carries the user's data.
+std::string shown(const QUrl& url)
+{
+    return toUtf8(url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveQuery | QUrl::RemoveFragment).toString());
+}
+
+// Why a redirect from `from` to `to` is not followed; empty when it may be. Only web addresses are
+// followed, and never from https down to http.
+std::string redirectRefusal(const QUrl& from, const QUrl& to)
+{
+    const QString scheme = to.scheme();
+    if (scheme != QLatin1String("http") && scheme != QLatin1String("https"))
+        return "redirect to " + shown(to) + " refused: only http and https are followed";
+    if (from.scheme() == QLatin1String("https") && scheme == QLatin1String("http"))
+        return "redirect to " + shown(to) + " refused: from https down to http";
+    return {};
+}
+
+// One exchange as this client follows it.
+struct Exchange
+{
+    QNetworkReply* reply = nullptr;
+    QUrl current; // where the last allowed step went
+    QByteArray body;
+    qint64 maxBodyBytes = 0;
+    std::string cutBy; // why this client ended the exchange early; empty while it runs on
+
+    // Ends the exchange early, once, for `why`; false when it had ended already. The reason is in
+    // place before the caller aborts, which finishes the reply at once.
+    bool end(std::string why)
+    {
+        if (!cutBy.empty())
+            return false;
+        cutBy = std::move(why);
+        body.clear();
+        return true;
+    }
+
+    void endTooLong()
+    {
+        if (end("response body larger than " + std::to_string(maxBodyBytes) + " bytes"))
+            LOG(WARNING) << "HTTP response from " << shown(current) << " cut: " << cutBy;
+    }
+
+    // Reads what has arrived, so that an endless body costs no more memory than the cap.
+    void take()
+    {
+        if (!cutBy.empty() || !reply->isOpen()) // an aborted reply is closed and has nothing to read
+            return;
+        body += reply->readAll();
+        if (body.size() > maxBodyBytes) {
+            endTooLong();
+            reply->abort();
+        }
+    }
+};
 
 } // namespace
 
@@ -30,10 +90,7 @@ public:
     QObject guard;
 };
 
-HttpClient::HttpClient()
-    : d(std::make_unique<Impl>())
-{
-}
+HttpClient::HttpClient() : d(std::make_unique<Impl>()) {}
 
 HttpClient::~HttpClient()
 {
@@ -65,7 +122,9 @@ void HttpClient::send(const HttpRequest& request, Callback done)
     }
 
     QNetworkRequest qtRequest(url);
-    qtRequest.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    // Each redirect is looked at before it is followed (redirected() below).
+    qtRequest.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                           QNetworkRequest::UserVerifiedRedirectPolicy);
     for (const auto& [name, value] : request.headers)
         qtRequest.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));
     // The transfer timeout of Qt counts only idle time; the whole exchange is bounded below.
@@ -73,25 +132,58 @@ void HttpClient::send(const HttpRequest& request, Callback done)
                                ? d->manager.post(qtRequest, QByteArray::fromStdString(request.body))
                                : d->manager.get(qtRequest);
 
-    auto timedOut = std::make_shared<bool>(false);
+    auto state = std::make_shared<Exchange>();
+    state->reply = reply;
+    state->current = url;
+    state->maxBodyBytes = static_cast<qint64>(std::min<std::size_t>(request.maxBodyBytes, INT_MAX));
+
     auto* timer = new QTimer(reply);
     timer->setSingleShot(true);
-    QObject::connect(timer, &QTimer::timeout, reply, [reply, timedOut]() {
-        *timedOut = true;
-        reply->abort();
+    QObject::connect(timer, &QTimer::timeout, reply, [reply, state]() {
+        if (state->end("timeout"))
+            reply->abort();
     });
     timer->start(static_cast<int>(request.timeout.count()));
 
-    QObject::connect(reply, &QNetworkReply::finished, &d->guard, [reply, timedOut, done = std::move(done)]() {
+    QObject::connect(reply, &QNetworkReply::metaDataChanged, reply, [reply, state]() {
+        bool known = false;
+        const qint64 announced = reply->header(QNetworkRequest::ContentLengthHeader).toLongLong(&known);
+        if (known && announced > state->maxBodyBytes) {
+            state->endTooLong();
+            // Qt doesn't take an abort from inside its own report of the headers.
+            QMetaObject::invokeMethod(reply, &QNetworkReply::abort, Qt::QueuedConnection);
+        }
+    });
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, [state]() { state->take(); });
+    QObject::connect(reply, &QNetworkReply::redirected, reply, [reply, state](const QUrl& target) {
+        std::string refusal = redirectRefusal(state->current, target);
+        if (refusal.empty()) {
+            state->current = target;
+            Q_EMIT reply->redirectAllowed();
+        } else if (state->end(std::move(refusal))) {
+            LOG(WARNING) << "HTTP " << state->cutBy;
+            reply->abort();
+        }
+    });
+
+    QObject::connect(reply, &QNetworkReply::finished, &d->guard, [reply, state, done = std::move(done)]() {
         reply->deleteLater();
         HttpResponse response;
         response.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-        if (reply->isOpen()) // an aborted reply is closed and has nothing to read
-            response.body = reply->readAll().toStdString();
-        if (*timedOut)
-            response.error = "timeout";
+        state->take();
+        // Qt itself refuses a redirect to anything but http and https, before asking: the same refusal.
+        const QByteArray location = reply->rawHeader("Location");
+        if (reply->error() != QNetworkReply::NoError && !location.isEmpty()) {
+            std::string refusal =
+                redirectRefusal(state->current, state->current.resolved(QUrl::fromEncoded(location)));
+            if (!refusal.empty() && state->end(std::move(refusal)))
+                LOG(WARNING) << "HTTP " << state->cutBy;
+        }
+        if (!state->cutBy.empty())
+            response.error = state->cutBy;
         else if (reply->error() != QNetworkReply::NoError)
             response.error = toUtf8(reply->errorString());
+        response.body = state->body.toStdString();
         if (!response.error.empty())
             VLOG(1) << "HTTP request to " << Core::PersonalDataMask::mask(toUtf8(reply->url().toString()))
                     << " failed: " << Core::PersonalDataMask::mask(response.error);

@@ -21,7 +21,9 @@ public:
     HttpClient& operator=(const HttpClient&) = delete;
 
     /// A URL that is not a valid http or https address fails with an error, through the
-    /// callback like any other failure.
+    /// callback like any other failure. So do a redirect to anything but http or https (or from
+    /// https down to http), and a body longer than the request's maxBodyBytes, which is cut off as
+    /// it arrives: each with a WARNING.
     void send(const HttpRequest& request, Callback done) override;
 
     QNetworkAccessManager& accessManager();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <string>
@@ -22,6 +23,8 @@ struct HttpRequest
     std::string body;
     /// The whole exchange must end within this time, or it is given up with the error "timeout".
     std::chrono::milliseconds timeout{30000};
+    /// A response body longer than this is cut off: the exchange ends with an error and no body.
+    std::size_t maxBodyBytes = 4 * 1024 * 1024;
 };
 
 /// What came back. `status` is the HTTP status code, 0 when no response arrived; `error` is empty

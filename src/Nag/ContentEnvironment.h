@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Nag/NagAccessRules.h"
+
 #include <QString>
 
 #include <functional>
@@ -23,6 +25,8 @@ struct ContentEnvironment
     std::function<void(const AbstractContent&)> dontShow;
     /// How long a web nag may take to arrive before it counts as failed.
     int webTimeoutMs = 15000;
+    /// Where the nag's QML may reach besides "qrc:"; by default nowhere.
+    NagAccessRules access;
 };
 
 } // namespace Ostrel::App::NagScreen

@@ -54,6 +54,7 @@ public:
     std::shared_ptr<IWebNagUrlGenerator> urlGenerator;
     std::shared_ptr<WebConfig::INagsSettings> nagsSettings = std::make_shared<WebConfig::DefaultNagsSettings>();
     int webTimeoutMs = 15000;
+    NagAccessRules accessRules;
     std::vector<IManagerObserver*> observers;
     QMap<QString, QString> overrides;
     std::shared_ptr<IShowStrategy> showStrategy;
@@ -77,6 +78,7 @@ public:
         };
         env.urlGenerator = urlGenerator;
         env.webTimeoutMs = webTimeoutMs;
+        env.access = accessRules;
         env.dontShow = [weak](const AbstractContent& content) {
             if (const auto self = weak.lock())
                 self->rememberDontShow(content);
@@ -212,6 +214,11 @@ std::shared_ptr<WebConfig::INagsSettings> NagManager::GetNagsSettings() const
 void NagManager::SetWebTimeout(int milliseconds)
 {
     d->webTimeoutMs = milliseconds;
+}
+
+void NagManager::SetAccessRules(const NagAccessRules& rules)
+{
+    d->accessRules = rules;
 }
 
 void NagManager::AddObserver(IManagerObserver* observer)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Nag/IManager.h"
+#include "Nag/NagAccessRules.h"
 #include "Nag/ostrel_nag_export.h"
 
 #include <functional>
@@ -41,6 +42,8 @@ public:
     void SetNagsSettings(const std::shared_ptr<WebConfig::INagsSettings>& settings);
     std::shared_ptr<WebConfig::INagsSettings> GetNagsSettings() const;
     void SetWebTimeout(int milliseconds);
+    /// Where the QML of nags made from now on may reach besides "qrc:" (see NagAccessRules).
+    void SetAccessRules(const NagAccessRules& rules);
 
     void AddObserver(IManagerObserver* observer) override;
     void RemoveObserver(IManagerObserver* observer) override;

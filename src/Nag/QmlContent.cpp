@@ -3,12 +3,14 @@
 #include "Nag/DifferenceHash.h"
 #include "Nag/IActionStrategy.h"
 #include "Nag/NagCallback_p.h"
+#include "Nag/NagEngineAccess_p.h"
 #include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFileInfo>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -32,6 +34,7 @@ public:
     QString fallbackName;
     QMetaObject::Connection widthConnection;
     QMetaObject::Connection heightConnection;
+    std::shared_ptr<NagEngineAccess> access;
 };
 
 QmlContent::QmlContent(const NagContext& context, ContentEnvironment environment, QObject* parent)
@@ -45,6 +48,7 @@ QmlContent::QmlContent(const NagContext& context, ContentEnvironment environment
     d->view->setFocusPolicy(Qt::StrongFocus);
     d->view->setAttribute(Qt::WA_AlwaysStackOnTop);
     d->view->setClearColor(Qt::transparent);
+    d->access = NagEngineAccess::install(*d->view->engine(), this->environment().access);
     d->view->rootContext()->setContextProperty(QStringLiteral("callback"), d->callback);
     d->view->installEventFilter(this);
     setUi(d->view);
@@ -68,6 +72,11 @@ QmlContent::~QmlContent()
 QQuickWidget* QmlContent::view() const
 {
     return d->view;
+}
+
+void QmlContent::allowOwnFolder(const QUrl& mainQml)
+{
+    d->access->setOwnFolder(mainQml.isLocalFile() ? QFileInfo(mainQml.toLocalFile()).path() : QString());
 }
 
 QQuickItem* QmlContent::nagItem() const

@@ -39,6 +39,9 @@ public:
 
 protected:
     QQuickWidget* view() const;
+    /// Lets the nag read the folder of its main.qml when the product chose a local one; any other
+    /// address (a web nag, a resource) leaves it no folder on disk.
+    void allowOwnFolder(const QUrl& mainQml);
     /// The item that is the nag: the root of a local nag, the loaded item of a web one.
     virtual QQuickItem* nagItem() const;
     /// Starts showing the nag's root item: reads its description, follows its size, becomes Ready.

@@ -59,6 +59,7 @@ void QuickContent::load(const QUrl& url)
         fail("the nag has no source");
         return;
     }
+    allowOwnFolder(url);
     view()->setSource(url);
     if (view()->status() != QQuickWidget::Loading)
         onStatus();

@@ -78,6 +78,7 @@ void WebQuickContent::start(const QUrl& url)
         }
         connect(shell, SIGNAL(statusChanged()), this, SLOT(onShellStatus()));
     }
+    allowOwnFolder(url);
     m_timeout->start(environment().webTimeoutMs);
     view()->rootObject()->setProperty("nagUrl", url);
 }

@@ -1,5 +1,6 @@
 #include "App/Application/NagScreen/DefaultActions.h"
 
+#include "App/Application/NagScreen/AcceptNagLink.h"
 #include "Email/EmailSender.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IInternetConnectionChecker.h"
@@ -122,6 +123,8 @@ QUrl DefaultActions::PrepareUrl(const AbstractContent& content, const QString& u
 
 void DefaultActions::DoOpenUrl(const AbstractContent& content, const QUrl& url, const QMap<QString, QVariant>& params)
 {
+    if (!AcceptNagLink(url))
+        return;
     if (const auto opener = d->linksOpener.lock())
         opener->OpenUrl(content, url.url(), params);
 }

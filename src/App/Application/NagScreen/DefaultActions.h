@@ -71,6 +71,7 @@ public:
     QUrl Key2url(URLKeys key) const;
     /// `urlText` with "-APP_MODE-", "-APP_ACTION-", "-NAG_ID-" of `content` and the links' own macros.
     QUrl PrepareUrl(const AbstractContent& content, const QString& urlText) const;
+    /// Hands `url` to the links opener when AcceptNagLink takes it (web pages and mail only).
     void DoOpenUrl(const AbstractContent& content, const QUrl& url, const QMap<QString, QVariant>& params);
     /// Subscribes the address; a failure is reported as "NAG_FAILED_SEND_EMAIL" with `params`.
     void CollectEmail(const QString& name, const QString& email, std::map<std::string, std::string> params);

@@ -1,6 +1,9 @@
 #include "App/Application/NagScreen/NagLinksOpener.h"
 
+#include "App/Application/NagScreen/AcceptNagLink.h"
 #include "Interfaces/ILinksOpener.h"
+
+#include <QUrl>
 
 namespace Ostrel::App::NagScreen {
 
@@ -13,6 +16,8 @@ NagLinksOpener::~NagLinksOpener() = default;
 
 void NagLinksOpener::OpenUrl(const AbstractContent&, const QString& url, const QMap<QString, QVariant>&)
 {
+    if (!AcceptNagLink(QUrl(url, QUrl::TolerantMode)))
+        return;
     if (const auto opener = m_opener.lock())
         opener->OpenUrl(url);
 }

@@ -12,7 +12,8 @@ class ILinksOpener;
 namespace Ostrel::App::NagScreen {
 
 /// Hands a nag's link to the application's links opener; the content and the parameters stop here.
-/// A links opener that has gone drops the link silently.
+/// A links opener that has gone drops the link silently. Only links that AcceptNagLink takes are
+/// handed on.
 class OSTREL_APP_EXPORT NagLinksOpener : public INagLinksOpener
 {
 public:
