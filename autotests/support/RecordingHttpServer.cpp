@@ -9,26 +9,6 @@ namespace Ostrel::Test {
 
 namespace {
 
-QByteArray reasonPhrase(int status)
-{
-    switch (status) {
-    case 200:
-        return "OK";
-    case 301:
-        return "Moved Permanently";
-    case 302:
-        return "Found";
-    case 404:
-        return "Not Found";
-    case 500:
-        return "Internal Server Error";
-    case 503:
-        return "Service Unavailable";
-    default:
-        return "Status";
-    }
-}
-
 // The request in `buffer` once it is complete (head and Content-Length bytes of body).
 bool parseRequest(const QByteArray& buffer, RecordingHttpServer::Request* request)
 {
@@ -119,7 +99,7 @@ QUrl RecordingHttpServer::url(const QString& pathAndQuery) const
 
 QByteArray RecordingHttpServer::response(int status, const QByteArray& body, const QByteArray& contentType)
 {
-    return "HTTP/1.1 " + QByteArray::number(status) + ' ' + reasonPhrase(status) +
+    return "HTTP/1.1 " + QByteArray::number(status) + (status < 400 ? " OK" : " Error") +
            "\r\nContent-Type: " + contentType + "\r\nContent-Length: " + QByteArray::number(body.size()) +
            "\r\nConnection: close\r\n\r\n" + body;
 }
