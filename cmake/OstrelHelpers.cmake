@@ -52,18 +52,21 @@ endfunction()
 
 # ostrel_add_qtest(<ctest name> SOURCES ... [LIBS ...] [ALLOW_QT_WARNINGS] [ENVIRONMENT ...])
 #
-# A QtTest executable registered in CTest. Tests run headless on the offscreen platform and
-# any Qt warning that a test did not expect fails it (OSTREL_QT_WARNINGS_FAIL): a test that means
+# A QtTest executable registered in CTest. The test sets up its own process (offscreen platform,
+# software Qt Quick, a private runtime folder: autotests/support/TestEnvironment), so that it runs
+# the same started by hand. Any Qt warning that a test did not expect fails it: a test that means
 # to provoke Qt warnings says ALLOW_QT_WARNINGS.
 function(ostrel_add_qtest name)
     cmake_parse_arguments(ARG "ALLOW_QT_WARNINGS" "" "SOURCES;LIBS;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE Ostrel::TestSupport ${ARG_LIBS})
     target_compile_definitions(${name} PRIVATE QT_FORCE_ASSERTS)
-    add_test(NAME ${name} COMMAND ${name})
-    set(env QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=${OSTREL_TEST_RUNTIME_DIR} ${ARG_ENVIRONMENT})
-    if(NOT ARG_ALLOW_QT_WARNINGS)
-        list(APPEND env OSTREL_QT_WARNINGS_FAIL=1)
+    if(ARG_ALLOW_QT_WARNINGS)
+        target_compile_definitions(${name} PRIVATE OSTREL_QT_WARNINGS_FAIL=0)
     endif()
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${env}" TIMEOUT 300)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+    if(ARG_ENVIRONMENT)
+        set_tests_properties(${name} PROPERTIES ENVIRONMENT "${ARG_ENVIRONMENT}")
+    endif()
 endfunction()

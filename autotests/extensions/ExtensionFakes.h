@@ -2,7 +2,11 @@
 
 // What the extensions read from their components, set by each test.
 
-#include "Fakes.h"
+#include "FakeCustomization.h"
+#include "FakeHardware.h"
+#include "FakeLaunchType.h"
+#include "FakeLookAndFeel.h"
+#include "MemorySettings.h"
 
 #include "Interfaces/IGateway.h"
 #include "Interfaces/IHttpClient.h"

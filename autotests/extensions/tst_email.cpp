@@ -9,6 +9,7 @@
 
 #include "ExtensionFakes.h"
 #include "LogCapture.h"
+#include "RecordingHttpServer.h"
 #include "TestEnvironment.h"
 
 #include <QApplication>
@@ -16,49 +17,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTcpServer>
-#include <QTcpSocket>
 
 using namespace Ostrel;
 using namespace Ostrel::App;
 using namespace Ostrel::Test;
 
 namespace {
-
-// Records the request line of each request and answers with `status`, or never when `silent`.
-class RecordingServer : public QObject
-{
-public:
-    QList<QByteArray> requestLines;
-    int status = 200;
-    bool silent = false;
-
-    RecordingServer()
-    {
-        m_server.listen(QHostAddress::LocalHost);
-        connect(&m_server, &QTcpServer::newConnection, this, [this]() {
-            QTcpSocket* socket = m_server.nextPendingConnection();
-            connect(socket, &QTcpSocket::readyRead, this, [this, socket]() {
-                m_buffer += socket->readAll();
-                if (!m_buffer.contains("\r\n\r\n"))
-                    return;
-                requestLines.append(m_buffer.left(m_buffer.indexOf("\r\n")));
-                m_buffer.clear();
-                if (silent)
-                    return;
-                socket->write("HTTP/1.1 " + QByteArray::number(status) +
-                              " X\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
-                socket->disconnectFromHost();
-            });
-        });
-    }
-
-    QString base() const { return QStringLiteral("http://127.0.0.1:%1").arg(m_server.serverPort()); }
-
-private:
-    QTcpServer m_server;
-    QByteArray m_buffer;
-};
 
 // What a user does in the dialog that is open: types, ticks or unticks the consent, clicks.
 struct UserInput
@@ -193,7 +157,7 @@ private slots:
         QFETCH(UserInput, input);
         QFETCH(bool, sent);
         QFETCH(QString, confirmed);
-        RecordingServer server;
+        RecordingHttpServer server;
         const auto links =
             realLinks(server.base() + QStringLiteral("/subscribe/?asrc=&-TAIL_WITH_ARGS--AMP-name=-NAME--AMP-email=-EMAIL-"));
         const auto subject = collector(links, std::make_shared<Networking::HttpClient>());
@@ -205,7 +169,7 @@ private slots:
         QCOMPARE(QString::fromStdString(m_mail->values["isConfirmed"]), confirmed);
         if (!sent) {
             QTest::qWait(300);
-            QVERIFY(server.requestLines.isEmpty());
+            QVERIFY(server.requests().isEmpty());
             QVERIFY(!m_mail->Has("IsRegUser"));
             return;
         }
@@ -213,8 +177,8 @@ private slots:
         QCOMPARE(QString::fromStdString(m_mail->values["UserEmail"]), address);
         QCOMPARE(QString::fromStdString(m_mail->values["UserName"]), input.name);
         QTRY_COMPARE(m_mail->GetString("IsRegUser", ""), std::string("1"));
-        QCOMPARE(server.requestLines.size(), 1);
-        const QByteArray line = server.requestLines.first();
+        QCOMPARE(server.requests().size(), 1);
+        const QByteArray line = server.requests().first().line;
         QVERIFY2(line.startsWith("GET /subscribe/?"), line.constData());
         QVERIFY2(line.contains("email=" + QUrl::toPercentEncoding(address)), line.constData());
         QVERIFY2(line.contains("name=" + QUrl::toPercentEncoding(input.name)), line.constData());
@@ -236,9 +200,8 @@ private slots:
         QFETCH(int, status);
         QFETCH(bool, silent);
         QFETCH(bool, withClient);
-        RecordingServer server;
-        server.status = status;
-        server.silent = silent;
+        RecordingHttpServer server;
+        server.setReply(silent ? QByteArray() : RecordingHttpServer::response(status));
         m_mail->values = {{"UserName", "Dee"}, {"UserEmail", "dee@example.com"}};
         const auto links = realLinks(server.base() + QStringLiteral("/s/?name=-NAME--AMP-email=-EMAIL-"));
         EmailSender sender(links, withClient ? std::make_shared<Networking::HttpClient>() : nullptr, m_mail);

@@ -5,8 +5,8 @@
 #include "Tracking/ApplicationTrackerFactory.h"
 
 #include "ExtensionFakes.h"
+#include "RecordingTracker.h"
 #include "TestEnvironment.h"
-#include "tracking/RecordingTracker.h"
 
 #include <QElapsedTimer>
 #include <QWidget>

@@ -98,6 +98,21 @@ private Q_SLOTS:
         QVERIFY(scene.bar()->value() < scene.bar()->maximum());
     }
 
+    void perPixelListKeepsItsModeAndPosition()
+    {
+        ListScene scene(QAbstractItemView::ScrollPerPixel);
+        const int maximum = scene.bar()->maximum();
+        Gesture::Consumer& scroller = *new Gesture::Scroller(&scene.view);
+        scroller.OnGesture(panAt(50, 100, true));
+        scroller.OnGesture(panAt(50, 0));
+        scroller.OnGesture(panAt(50, 0, false, true));
+
+        QCOMPARE(scene.view.verticalScrollMode(), QAbstractItemView::ScrollPerPixel);
+        QCOMPARE(scene.view.horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
+        QCOMPARE(scene.bar()->maximum(), maximum);
+        QCOMPARE(scene.bar()->value(), 100);
+    }
+
     void beginAndEndTogetherMoveNothing()
     {
         ListScene scene(QAbstractItemView::ScrollPerItem);

@@ -95,6 +95,22 @@ int instance(int argc, char** argv)
     return app.exec();
 }
 
+// Whether another locker of the application's lock (its name in argv[2]) gets it while an
+// Application lives, and once it is gone.
+int appMutex(int argc, char** argv)
+{
+    const std::string name = argv[2];
+    {
+        auto lifetime = std::make_shared<App::LifetimeManager>();
+        App::Application app(argc, argv, lifetime);
+        Util::AppMutexLocker other(name);
+        std::cout << "lockedWhileAlive=" << other.TryLockAppMutex() << std::endl;
+    }
+    Util::AppMutexLocker other(name);
+    std::cout << "lockedAfter=" << other.TryLockAppMutex() << std::endl;
+    return 0;
+}
+
 int holdLock(char** argv)
 {
     Util::AppMutexLocker locker(argv[2]);
@@ -127,6 +143,8 @@ int main(int argc, char** argv)
         return guard(argc, argv);
     if (mode == "instance" && argc > 2)
         return instance(argc, argv);
+    if (mode == "appmutex" && argc > 2)
+        return appMutex(argc, argv);
     if (mode == "holdlock" && argc > 2)
         return holdLock(argv);
     if (qEnvironmentVariableIsSet("OSTREL_PROBE_RECORD"))

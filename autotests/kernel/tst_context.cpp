@@ -9,6 +9,7 @@
 
 #include "TestEnvironment.h"
 
+#include <array>
 #include <atomic>
 #include <functional>
 #include <thread>
@@ -65,6 +66,32 @@ public:
     void onSet() override { ++calls; }
     int calls = 0;
 };
+
+// A distinct stand-in for each component type of a context, pointing into `storage`: never
+// dereferenced, so that the component types may stay incomplete. Returns how many were set.
+template <class... Components>
+std::size_t setEveryComponent(App::IApplicationContext<void, Components...>& context,
+                              const std::shared_ptr<std::array<char, 64>>& storage)
+{
+    static_assert(sizeof...(Components) < 64);
+    std::size_t index = 0;
+    context.set(std::shared_ptr<void>(storage, storage->data() + index++));
+    (context.set(
+         std::shared_ptr<Components>(storage, reinterpret_cast<Components*>(storage->data() + index++))),
+     ...);
+    return index;
+}
+
+template <class... Components>
+bool everyComponentIsItsOwn(const App::IApplicationContext<void, Components...>& context,
+                            const std::shared_ptr<std::array<char, 64>>& storage)
+{
+    std::size_t index = 1;
+    return context.template get<void>().get() == storage->data() &&
+           ((context.template get<Components>().get() ==
+             reinterpret_cast<Components*>(storage->data() + index++)) &&
+            ...);
+}
 
 } // namespace
 
@@ -246,6 +273,13 @@ private Q_SLOTS:
         App::ITopManager top;
         top.fetchAllComponents();
         QCOMPARE(top.componentCount(), std::size_t(0));
+
+        const auto storage = std::make_shared<std::array<char, 64>>();
+        const std::size_t count = setEveryComponent(top, storage);
+        QCOMPARE(top.componentCount(), count);
+        top.fetchAllComponents();
+        QCOMPARE(top.componentCount(), count);
+        QVERIFY(everyComponentIsItsOwn(top, storage));
     }
 };
 

@@ -36,14 +36,15 @@ private Q_SLOTS:
         QFETCH(bool, expectScaling);
         QFETCH(bool, expectAwarenessCall);
 
-        QProcessEnvironment env = probeEnvironment();
+        Ostrel::Test::ProbeRunner probe(QStringLiteral(KERNEL_PROBE));
+        QProcessEnvironment& env = probe.environment();
         env.remove(QStringLiteral("OSTREL_DPI_POLICY"));
         if (policy != QLatin1String("-"))
             env.insert(QStringLiteral("OSTREL_DPI_POLICY"), policy);
         if (withShcore)
             env.insert(QStringLiteral("LD_LIBRARY_PATH"), QStringLiteral(FAKE_SHCORE_DIR));
 
-        const ProbeResult result = runProbe({QStringLiteral("dpi")}, env);
+        const auto result = probe.run({QStringLiteral("dpi")});
         QCOMPARE(result.exitCode, 0);
         QCOMPARE(result.values.value(QStringLiteral("highDpiScaling")), expectScaling ? "1" : "0");
         QCOMPARE(result.values.contains(QStringLiteral("SetProcessDpiAwareness")), expectAwarenessCall);
@@ -82,7 +83,7 @@ private Q_SLOTS:
         QVERIFY(!Application::CheckRunnedInstaller());
 
         QProcess holder;
-        holder.setProcessEnvironment(probeEnvironment());
+        holder.setProcessEnvironment(Ostrel::Test::ProbeRunner::defaultEnvironment());
         holder.start(QStringLiteral(KERNEL_PROBE),
                      {QStringLiteral("holdlock"), QStringLiteral("{8E40B7D3-12AF-49C5-B6E7-0C93F5A1D726}")});
         QVERIFY(holder.waitForStarted());

@@ -1,10 +1,12 @@
 // What only a separate process can show: the restarted program's command line, an exception that
-// the event guard lets go on, two instances starting side by side.
+// the event guard lets go on, the application's lock, two instances starting side by side.
 
 #include "ProbeRunner.h"
 #include "TestEnvironment.h"
 
 #include <QTemporaryDir>
+
+using Ostrel::Test::ProbeRunner;
 
 class ProcessesTest : public QObject
 {
@@ -28,10 +30,10 @@ private Q_SLOTS:
 
         QTemporaryDir dir;
         const QString recordPath = dir.filePath(QStringLiteral("record.txt"));
-        QProcessEnvironment env = probeEnvironment();
-        env.insert(QStringLiteral("OSTREL_PROBE_RECORD"), recordPath);
+        ProbeRunner probe(QStringLiteral(KERNEL_PROBE));
+        probe.environment().insert(QStringLiteral("OSTREL_PROBE_RECORD"), recordPath);
 
-        const ProbeResult result = runProbe({QStringLiteral("restart"), arguments}, env);
+        const auto result = probe.run({QStringLiteral("restart"), arguments});
         QCOMPARE(result.exitCode, 0);
         QCOMPARE(result.values.value(QStringLiteral("restarted")), QStringLiteral("1"));
 
@@ -46,7 +48,8 @@ private Q_SLOTS:
 
     void guardLogsTracksAndRethrowsStandardExceptions()
     {
-        const ProbeResult result = runProbe({QStringLiteral("guard"), QStringLiteral("std")});
+        const auto result =
+            ProbeRunner(QStringLiteral(KERNEL_PROBE)).run({QStringLiteral("guard"), QStringLiteral("std")});
         QCOMPARE(result.exitStatus, QProcess::NormalExit);
         QCOMPARE(result.exitCode, 3);
         QCOMPARE(result.values.value(QStringLiteral("rethrown")), QStringLiteral("slot exploded"));
@@ -67,18 +70,31 @@ private Q_SLOTS:
 
     void guardLetsOtherExceptionsPassUnseen()
     {
-        const ProbeResult result = runProbe({QStringLiteral("guard"), QStringLiteral("other")});
+        const auto result =
+            ProbeRunner(QStringLiteral(KERNEL_PROBE)).run({QStringLiteral("guard"), QStringLiteral("other")});
         QCOMPARE(result.exitCode, 4);
         QVERIFY(!result.standardError.contains(QLatin1String("Exception has been caught")));
         QVERIFY(!QFile::exists(result.values.value(QStringLiteral("crashRecord"))));
+    }
+
+    void applicationHoldsItsLockUntilItIsGone()
+    {
+        // The name other programs of the product (the installer) know it by.
+        const auto result =
+            ProbeRunner(QStringLiteral(KERNEL_PROBE))
+                .run({QStringLiteral("appmutex"), QStringLiteral("{3C1F7A92-5D08-4E6B-9A14-7E2B60D4C81F}")});
+        QVERIFY2(result.finished && result.exitCode == 0, qPrintable(result.standardError));
+        QCOMPARE(result.value(QStringLiteral("lockedWhileAlive")), QStringLiteral("0"));
+        QCOMPARE(result.value(QStringLiteral("lockedAfter")), QStringLiteral("1"));
     }
 
     void secondInstanceIsNotRefused()
     {
         QProcess first, second;
         for (QProcess* process : {&first, &second}) {
-            process->setProcessEnvironment(probeEnvironment());
-            process->start(QStringLiteral(KERNEL_PROBE), {QStringLiteral("instance"), QStringLiteral("1500")});
+            process->setProcessEnvironment(ProbeRunner::defaultEnvironment());
+            process->start(QStringLiteral(KERNEL_PROBE),
+                           {QStringLiteral("instance"), QStringLiteral("1500")});
         }
         for (QProcess* process : {&first, &second}) {
             QVERIFY(process->waitForFinished(30000));

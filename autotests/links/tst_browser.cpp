@@ -5,8 +5,8 @@
 #include "App/Application/PreferredBrowser.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
-#include "../tracking/RecordingTracker.h"
-#include "Fakes.h"
+#include "MemorySettings.h"
+#include "RecordingTracker.h"
 #include "TestEnvironment.h"
 
 #include <QDir>

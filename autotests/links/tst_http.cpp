@@ -1,150 +1,29 @@
 // The common request headers on a real request to a server on 127.0.0.1 that records what it
 // got, and the HTTP client against the same server.
 
+#include "App/Application/Application.h"
+#include "App/Application/CreateDefaultUpdater.h"
 #include "App/Application/HttpRequestUpdater.h"
+#include "App/Application/LifetimeManager.h"
 #include "Foundation/SHA1.h"
 #include "Http/CaseInsensitiveCompare.h"
 #include "Http/HttpClient.h"
 
-#include "Fakes.h"
+#include "FakeCustomization.h"
+#include "FakeHardware.h"
 #include "LogCapture.h"
+#include "MemorySettings.h"
+#include "RecordingHttpServer.h"
 #include "TestEnvironment.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QUrlQuery>
 
 using namespace Ostrel;
 using namespace Ostrel::App;
 using namespace Ostrel::Test;
-
-namespace {
-
-// One request at a time: records its line, headers (names as sent) and body, then answers with
-// `status`, or not at all when `silent`.
-class RecordingServer : public QObject
-{
-public:
-    QByteArray requestLine;
-    QList<QPair<QByteArray, QByteArray>> headers;
-    QByteArray body;
-    int requests = 0;
-    int status = 200;
-    bool silent = false;
-
-    RecordingServer()
-    {
-        m_server.listen(QHostAddress::LocalHost);
-        connect(&m_server, &QTcpServer::newConnection, this, [this]() {
-            QTcpSocket* socket = m_server.nextPendingConnection();
-            auto* buffer = new QByteArray;
-            connect(socket, &QObject::destroyed, [buffer]() { delete buffer; });
-            connect(socket, &QTcpSocket::readyRead, this, [this, socket, buffer]() {
-                *buffer += socket->readAll();
-                const int end = buffer->indexOf("\r\n\r\n");
-                if (end < 0)
-                    return;
-                const QList<QByteArray> lines = buffer->left(end).split('\n');
-                QList<QPair<QByteArray, QByteArray>> received;
-                int length = 0;
-                for (int i = 1; i < lines.size(); ++i) {
-                    const int colon = lines[i].indexOf(':');
-                    received.append({lines[i].left(colon).trimmed(), lines[i].mid(colon + 1).trimmed()});
-                    if (received.back().first.toLower() == "content-length")
-                        length = received.back().second.toInt();
-                }
-                if (buffer->size() < end + 4 + length)
-                    return;
-                requestLine = lines.first().trimmed();
-                headers = received;
-                body = buffer->mid(end + 4, length);
-                ++requests;
-                buffer->clear();
-                if (silent)
-                    return;
-                socket->write("HTTP/1.1 " + QByteArray::number(status) + " X\r\nContent-Length: 5\r\n"
-                              "Connection: close\r\n\r\nhello");
-                socket->disconnectFromHost();
-            });
-        });
-    }
-
-    QByteArray header(const QByteArray& name) const
-    {
-        for (const auto& [key, value] : headers) {
-            if (key == name)
-                return value;
-        }
-        return "<none>";
-    }
-
-    std::string url(const char* path) const
-    {
-        return "http://127.0.0.1:" + std::to_string(m_server.serverPort()) + path;
-    }
-
-private:
-    QTcpServer m_server;
-};
-
-// Answers by path, for the body cap and the redirects: "/body?size=N" sends N bytes, "/endless"
-// sends until the client hangs up, "/announced" announces more than any cap and sends nothing,
-// "/redirect?to=X" sends 302 to X, "/final" says "landed". A minimal stand-in until the shared
-// test server lands.
-class ScriptedServer : public QTcpServer
-{
-public:
-    QStringList paths;
-
-    ScriptedServer()
-    {
-        connect(this, &QTcpServer::newConnection, this, [this]() {
-            while (QTcpSocket* socket = nextPendingConnection())
-                connect(socket, &QTcpSocket::readyRead, socket, [this, socket]() { answer(socket); });
-        });
-        listen(QHostAddress::LocalHost);
-    }
-    std::string url(const QString& path) const
-    {
-        return QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(path).toStdString();
-    }
-
-private:
-    void answer(QTcpSocket* socket)
-    {
-        const QUrl target(QString::fromLatin1(socket->readAll().split(' ').value(1)));
-        paths << target.path();
-        const QUrlQuery query(target);
-        if (target.path() == QLatin1String("/endless")) {
-            socket->write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n");
-            // Another 64 KiB whenever the last went out, for as long as the client reads.
-            const auto more = [socket]() {
-                if (socket->bytesToWrite() == 0 && socket->state() == QAbstractSocket::ConnectedState)
-                    socket->write(QByteArray(64 * 1024, 'x'));
-            };
-            connect(socket, &QTcpSocket::bytesWritten, socket, more);
-            more();
-            return;
-        }
-        QByteArray head = "HTTP/1.1 200 OK";
-        QByteArray body;
-        if (target.path() == QLatin1String("/body"))
-            body = QByteArray(query.queryItemValue(QStringLiteral("size")).toInt(), 'x');
-        else if (target.path() == QLatin1String("/final"))
-            body = "landed";
-        else if (target.path() == QLatin1String("/redirect"))
-            head = "HTTP/1.1 302 Found\r\nLocation: " +
-                   query.queryItemValue(QStringLiteral("to"), QUrl::FullyDecoded).toUtf8();
-        const QByteArray length =
-            target.path() == QLatin1String("/announced") ? "1000000000" : QByteArray::number(body.size());
-        socket->write(head + "\r\nContent-Length: " + length + "\r\nConnection: close\r\n\r\n" + body);
-        socket->disconnectFromHost();
-    }
-};
-
-} // namespace
 
 class TestHttp : public QObject
 {
@@ -167,6 +46,42 @@ class TestHttp : public QObject
         return result;
     }
 
+
+    // "/body?size=N" sends N bytes, "/endless" sends until the client hangs up, "/announced"
+    // announces more than any cap and sends nothing, "/redirect?to=X" sends 302 to X, "/final"
+    // says "landed".
+    static void scriptLimits(RecordingHttpServer& server)
+    {
+        const auto query = [](const RecordingHttpServer::Request& request) {
+            return QUrlQuery(QUrl(QString::fromLatin1(request.target)));
+        };
+        server.setHandler("/body", [query](const RecordingHttpServer::Request& request, QTcpSocket& socket) {
+            const int size = query(request).queryItemValue(QStringLiteral("size")).toInt();
+            socket.write(RecordingHttpServer::response(200, QByteArray(size, 'x')));
+            socket.disconnectFromHost();
+        });
+        server.setHandler("/endless", [](const RecordingHttpServer::Request&, QTcpSocket& socket) {
+            socket.write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n");
+            // Another 64 KiB whenever the last went out, for as long as the client reads.
+            QTcpSocket* out = &socket;
+            const auto more = [out]() {
+                if (out->bytesToWrite() == 0 && out->state() == QAbstractSocket::ConnectedState)
+                    out->write(QByteArray(64 * 1024, 'x'));
+            };
+            QObject::connect(out, &QTcpSocket::bytesWritten, out, more);
+            more();
+        });
+        server.setReplyFor("/announced", "HTTP/1.1 200 OK\r\nContent-Length: 1000000000\r\n"
+                                         "Connection: close\r\n\r\n");
+        server.setHandler("/redirect", [query](const RecordingHttpServer::Request& request, QTcpSocket& socket) {
+            socket.write("HTTP/1.1 302 Found\r\nLocation: " +
+                         query(request).queryItemValue(QStringLiteral("to"), QUrl::FullyDecoded).toUtf8() +
+                         "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
+            socket.disconnectFromHost();
+        });
+        server.setReplyFor("/final", RecordingHttpServer::response(200, "landed"));
+    }
+
 private slots:
     void init()
     {
@@ -177,9 +92,10 @@ private slots:
 
     void updatedRequestReachesTheServer()
     {
-        RecordingServer server;
+        RecordingHttpServer server;
+        server.setReply(RecordingHttpServer::response(200, "hello"));
         HttpRequestUpdater updater(customization, user, hardware);
-        QNetworkRequest request(QUrl(QString::fromStdString(server.url("/headers"))));
+        QNetworkRequest request(QUrl(server.url(QStringLiteral("/headers"))));
         request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Overwritten/0"));
         request.setRawHeader("X-Mine", "kept");
         updater.updateQtRequest(request);
@@ -188,12 +104,13 @@ private slots:
         QNetworkReply* reply = manager.get(request);
         QTRY_VERIFY_WITH_TIMEOUT(reply->isFinished(), 10000);
         delete reply;
-        QCOMPARE(server.requests, 1);
-        QCOMPARE(server.header("User-Agent"), QByteArray("Mozilla/5.0 Probe/1"));
-        QCOMPARE(server.header("Ostrel-Huid"), QByteArray::fromStdString(Util::SHA1::digest("machine-42")));
-        QCOMPARE(server.header("Ostrel-Os"), QByteArray("win"));
-        QCOMPARE(server.header("Ostrel-Webuid"), QByteArray("UNDEFINED"));
-        QCOMPARE(server.header("X-Mine"), QByteArray("kept"));
+        QCOMPARE(server.requests().size(), 1);
+        QCOMPARE(server.requests().last().header("User-Agent"), QByteArray("Mozilla/5.0 Probe/1"));
+        QCOMPARE(server.requests().last().header("Ostrel-Huid"),
+                 QByteArray::fromStdString(Util::SHA1::digest("machine-42")));
+        QCOMPARE(server.requests().last().header("Ostrel-Os"), QByteArray("win"));
+        QCOMPARE(server.requests().last().header("Ostrel-Webuid"), QByteArray("UNDEFINED"));
+        QCOMPARE(server.requests().last().header("X-Mine"), QByteArray("kept"));
     }
 
     void headersFollowTheComponents()
@@ -209,6 +126,27 @@ private slots:
         QCOMPARE(headers.size(), raw.size());
         QCOMPARE(headers.at("ostrel-WEBUID"), std::string("web-7"));
         QCOMPARE(headers.at("user-agent"), std::string("Mozilla/5.0 Probe/1"));
+    }
+
+    // Over a context, and over the running application's own.
+    void defaultUpdaterTakesTheContextsComponents()
+    {
+        ITopManager top;
+        QVERIFY_EXCEPTION_THROWN(createDefaultUpdater(top), std::logic_error);
+        auto& application = *qobject_cast<Application*>(QCoreApplication::instance());
+        QVERIFY_EXCEPTION_THROWN(createDefaultUpdater(), std::logic_error);
+        for (ITopManager* context : {&top, static_cast<ITopManager*>(&application)}) {
+            context->set<ICustomizationManager>(customization);
+            context->set<IUserSettingsManager>(user);
+            context->set<IHardwareInfo>(hardware);
+        }
+        user->SetString("WEBUID", "web-9");
+        for (const auto& updater : {createDefaultUpdater(top), createDefaultUpdater()}) {
+            const auto headers = updater->getRawHeaders();
+            QCOMPARE(headers.at("Ostrel-Webuid"), std::string("web-9"));
+            QCOMPARE(headers.at("Ostrel-Huid"), Util::SHA1::digest("machine-42"));
+            QCOMPARE(headers.at("User-Agent"), std::string("Mozilla/5.0 Probe/1"));
+        }
     }
 
     void nullComponentsAreRefused()
@@ -242,35 +180,40 @@ private slots:
 
     void clientSendsAndReports()
     {
-        RecordingServer server;
+        RecordingHttpServer server;
+        server.setReply(RecordingHttpServer::response(200, "hello"));
         Networking::HttpClient client;
         Networking::HttpRequest post;
         post.method = Networking::HttpRequest::Method::Post;
-        post.url = server.url("/form?x=1");
+        post.url = server.url(QStringLiteral("/form?x=1")).toString().toStdString();
         post.headers = {{"Content-Type", "application/json"}, {"X-Probe", "1"}};
         post.body = "{\"a\":1}";
         auto response = sendAndWait(client, post);
-        QCOMPARE(server.requestLine, QByteArray("POST /form?x=1 HTTP/1.1"));
-        QCOMPARE(server.body, QByteArray("{\"a\":1}"));
-        QCOMPARE(server.header("X-Probe"), QByteArray("1"));
+        QCOMPARE(server.requests().last().line, QByteArray("POST /form?x=1 HTTP/1.1"));
+        QCOMPARE(server.requests().last().body, QByteArray("{\"a\":1}"));
+        QCOMPARE(server.requests().last().header("X-Probe"), QByteArray("1"));
         QCOMPARE(response.status, 200);
         QCOMPARE(response.body, std::string("hello"));
         QCOMPARE(response.error, std::string());
 
-        server.status = 503;
-        response = sendAndWait(client, {Networking::HttpRequest::Method::Get, server.url("/down"), {}, {}});
-        QCOMPARE(server.requestLine, QByteArray("GET /down HTTP/1.1"));
+        server.setReply(RecordingHttpServer::response(503, "hello"));
+        response = sendAndWait(client, {Networking::HttpRequest::Method::Get,
+                                        server.url(QStringLiteral("/down")).toString().toStdString(),
+                                        {},
+                                        {}});
+        QCOMPARE(server.requests().last().line, QByteArray("GET /down HTTP/1.1"));
         QCOMPARE(response.status, 503);
         QVERIFY(!response.error.empty());
     }
 
     void clientFailures()
     {
-        RecordingServer server;
-        server.silent = true;
+        RecordingHttpServer server;
+        server.setReply(RecordingHttpServer::response(200, "hello"));
+        server.setReply({});
         Networking::HttpClient client;
         Networking::HttpRequest request;
-        request.url = server.url("/slow");
+        request.url = server.url(QStringLiteral("/slow")).toString().toStdString();
         request.timeout = std::chrono::milliseconds(300);
         auto response = sendAndWait(client, request);
         QCOMPARE(response.error, std::string("timeout"));
@@ -280,7 +223,6 @@ private slots:
         response = sendAndWait(client, request);
         QVERIFY(response.error.find("invalid URL") == 0);
     }
-
     void bodiesAreCapped_data()
     {
         QTest::addColumn<QString>("path");
@@ -297,10 +239,11 @@ private slots:
         QFETCH(QString, path);
         QFETCH(int, cap);
         QFETCH(bool, cut);
-        ScriptedServer server;
+        RecordingHttpServer server;
+        scriptLimits(server);
         Networking::HttpClient client;
         Networking::HttpRequest request;
-        request.url = server.url(path);
+        request.url = server.url(path).toString().toStdString();
         if (cap > 0)
             request.maxBodyBytes = static_cast<std::size_t>(cap);
         LogCapture log;
@@ -333,27 +276,38 @@ private slots:
     {
         QFETCH(QString, to);
         QFETCH(bool, followed);
-        ScriptedServer server;
-        to.replace(QLatin1String("%BASE%"), QString::fromStdString(server.url(QString())));
+        RecordingHttpServer server;
+        scriptLimits(server);
+        to.replace(QLatin1String("%BASE%"), server.base());
         Networking::HttpClient client;
         Networking::HttpRequest request;
-        request.url =
-            server.url(QStringLiteral("/redirect?to=") + QString::fromLatin1(QUrl::toPercentEncoding(to)));
+        request.url = server.url(QStringLiteral("/redirect?to=") + QString::fromLatin1(QUrl::toPercentEncoding(to)))
+                          .toString()
+                          .toStdString();
         LogCapture log;
         const auto response = sendAndWait(client, request);
+        QStringList paths;
+        for (const auto& received : server.requests())
+            paths << QString::fromLatin1(received.path());
         if (followed) {
             QCOMPARE(response.error, std::string());
             QCOMPARE(response.body, std::string("landed"));
-            QCOMPARE(server.paths, (QStringList{QStringLiteral("/redirect"), QStringLiteral("/final")}));
+            QCOMPARE(paths, (QStringList{QStringLiteral("/redirect"), QStringLiteral("/final")}));
             return;
         }
         const std::string expected = "redirect to " + to.toStdString() + " refused";
         QVERIFY2(response.error.find(expected) == 0, response.error.c_str());
         QVERIFY(response.body.empty());
         QCOMPARE(log.matching(expected).size(), size_t(1));
-        QCOMPARE(server.paths, QStringList{QStringLiteral("/redirect")});
+        QCOMPARE(paths, QStringList{QStringLiteral("/redirect")});
     }
 };
 
-OSTREL_TEST_MAIN(TestHttp)
+int main(int argc, char** argv)
+{
+    Test::initTestEnvironment(argv[0]);
+    Application application(argc, argv, std::make_shared<LifetimeManager>(), Application::DISABLE_APP_MUTEX);
+    TestHttp test;
+    return Test::exec(&test, argc, argv);
+}
 #include "tst_http.moc"

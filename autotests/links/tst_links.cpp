@@ -6,8 +6,12 @@
 #include "Core/LinksManager.h"
 #include "Foundation/SHA1.h"
 
-#include "Fakes.h"
+#include "FakeCustomization.h"
+#include "FakeHardware.h"
+#include "FakeLaunchType.h"
+#include "FakeLookAndFeel.h"
 #include "LogCapture.h"
+#include "MemorySettings.h"
 #include "TestEnvironment.h"
 
 #include <QUrlQuery>

@@ -6,7 +6,8 @@
 #include "App/Application/URLHandler.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
-#include "../tracking/RecordingTracker.h"
+#include "NoBrowserSources.h"
+#include "RecordingTracker.h"
 #include "TestEnvironment.h"
 
 #include <QDesktopServices>
@@ -18,15 +19,6 @@ using namespace Ostrel::App;
 using namespace Ostrel::Test;
 
 namespace {
-
-class NoSources : public IBrowserSources
-{
-public:
-    std::map<QString, QString> processMap() const override { return {}; }
-    QStringList valueNames(const QString&) const override { return {}; }
-    QStringList subkeys(const QString&) const override { return {}; }
-    QString defaultValue(const QString&) const override { return {}; }
-};
 
 using Params = std::map<std::string, std::string>;
 
@@ -98,7 +90,7 @@ private slots:
         Tracking::ApplicationTrackerFactory::setApplicationTracker(tracker);
         browserPath = QStringLiteral(BROWSER_STUB);
         asked = 0;
-        browser = std::make_unique<PreferredBrowser>(nullptr, std::make_shared<NoSources>());
+        browser = std::make_unique<PreferredBrowser>(nullptr, std::make_shared<NoBrowserSources>());
         browser->SetContextCallback([this]() {
             ++asked;
             return AbstractPreferredBrowser::PreferredBrowserContext{QString(), QString(), browserPath};

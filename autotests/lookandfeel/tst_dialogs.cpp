@@ -8,11 +8,12 @@
 #include "Core/ApplicationSettingsManager.h"
 #include "Interfaces/ICustomizationManager.h"
 
+#include "FakeCustomization.h"
+#include "ProbeRunner.h"
 #include "TestEnvironment.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
-#include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -24,23 +25,11 @@ using namespace Ostrel::App;
 
 namespace {
 
+// The second process's "key=value" lines; empty when it failed.
 QMap<QString, QString> probe(const QStringList& arguments)
 {
-    QProcess process;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    process.setProcessEnvironment(env);
-    process.start(QStringLiteral(LOOKANDFEEL_PROBE), arguments);
-    QMap<QString, QString> values;
-    if (!process.waitForFinished(60000) || process.exitCode() != 0)
-        return values;
-    const QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'));
-    for (const QString& line : lines) {
-        const int equals = line.indexOf(QLatin1Char('='));
-        if (equals > 0)
-            values.insert(line.left(equals), line.mid(equals + 1));
-    }
-    return values;
+    const auto result = Test::ProbeRunner(QStringLiteral(LOOKANDFEEL_PROBE)).run(arguments);
+    return result.finished && result.exitCode == 0 ? result.values : QMap<QString, QString>();
 }
 
 // Acts on the next modal box as soon as it shows, like a person in front of the screen.
@@ -64,22 +53,6 @@ void tickAndClick(QMessageBox* box, QMessageBox::StandardButton button, bool tic
         QTest::mouseClick(box->checkBox(), Qt::LeftButton);
     QTest::mouseClick(box->button(button), Qt::LeftButton);
 }
-
-class FakeCustomization : public ICustomizationManager
-{
-public:
-    std::string GetApplicationName() const override { return "Probe Capture"; }
-    std::string GetVersion() const override { return "1.0.0.0"; }
-    std::string GetOrganizationName() const override { return "Probe Org"; }
-    std::string GetPartnerName() const override { return {}; }
-    std::string GetModuleName() const override { return "capture"; }
-    std::string GetBrand() const override { return "probe"; }
-    bool IsEmailCollectionEnabled() const override { return false; }
-    std::string GetPageType() const override { return {}; }
-    std::pair<std::string, std::string> GetUserAgent() const override { return {}; }
-    std::string GetPresentableName() const override { return "Probe Capture"; }
-    std::string GetInternalId() const override { return "probe"; }
-};
 
 } // namespace
 
@@ -197,22 +170,28 @@ private slots:
 
     void customColoursSurviveTheProcess()
     {
+        const QString group = QStringLiteral("Ostrel::App::ColorDialogHelper/");
+        const auto key = [&](const QString& name) { return QString(group + name).toStdString(); };
         const auto first = probe({QStringLiteral("colors-load"), m_file});
         QCOMPARE(first.value(QStringLiteral("count")).toInt(), QColorDialog::customCount());
-        const QString untouched = first.value(QStringLiteral("color1"));
+        QVERIFY(first.value(QStringLiteral("color1")) != QStringLiteral("#a0b0c0"));
 
-        QVERIFY(!probe({QStringLiteral("colors-save"), m_file, QStringLiteral("#102030"), QStringLiteral("#a0b0c0")}).isEmpty() ||
-                QFile::exists(m_file));
+        const auto saved = Test::ProbeRunner(QStringLiteral(LOOKANDFEEL_PROBE))
+                               .run({QStringLiteral("colors-save"), m_file, QStringLiteral("#102030"),
+                                     QStringLiteral("#a0b0c0")});
+        QVERIFY(saved.finished && saved.exitCode == 0);
+        const auto stored = std::make_shared<ApplicationSettingsManager>(m_file);
+        QCOMPARE(stored->GetInt(key(QStringLiteral("ColorsCount")), 0), QColorDialog::customCount());
+        QCOMPARE(stored->GetString(key(QStringLiteral("Color0")), ""), std::string("#102030"));
+        QCOMPARE(stored->GetString(key(QStringLiteral("Color1")), ""), std::string("#a0b0c0"));
+
         const auto second = probe({QStringLiteral("colors-load"), m_file});
         QCOMPARE(second.value(QStringLiteral("color0")), QStringLiteral("#102030"));
         QCOMPARE(second.value(QStringLiteral("color1")), QStringLiteral("#a0b0c0"));
         QCOMPARE(second.value(QStringLiteral("color2")), first.value(QStringLiteral("color2")));
-        QVERIFY(untouched != QStringLiteral("#a0b0c0"));
-        const auto reread = std::make_shared<ApplicationSettingsManager>(m_file);
-        QCOMPARE(reread->GetInt("Ostrel::App::ColorDialogHelper/ColorsCount", 0), QColorDialog::customCount());
 
         // An entry missing below the count reads as transparent's name.
-        reread->Remove("Ostrel::App::ColorDialogHelper/Color0");
+        stored->Remove(key(QStringLiteral("Color0")));
         QCOMPARE(probe({QStringLiteral("colors-load"), m_file}).value(QStringLiteral("color0")),
                  QColor(Qt::transparent).name());
     }
@@ -231,7 +210,7 @@ private slots:
     {
         QFETCH(QString, action);
         QFETCH(bool, sendStatistics);
-        const auto customization = std::make_shared<FakeCustomization>();
+        const auto customization = std::make_shared<Test::FakeCustomization>();
         QString text;
         whenShown([&](QMessageBox* box) {
             QCOMPARE(box->objectName(), QStringLiteral("requestAppStoreStatistics"));
@@ -247,7 +226,7 @@ private slots:
                 box->close();
         });
         requestAppStoreStatistics(m_settings, customization);
-        QVERIFY(text.contains(QStringLiteral("Probe Capture")));
+        QVERIFY(text.contains(QStringLiteral("Links Probe")));
         QCOMPARE(m_settings->GetBool("sendStatistics", !sendStatistics), sendStatistics);
         QCOMPARE(m_settings->GetBool("is_first_show_appstore_statistic", true), false);
 
@@ -258,7 +237,7 @@ private slots:
     void statisticsNotAskedOfAnAgreedUser()
     {
         m_settings->SetBool("sendStatistics", true);
-        requestAppStoreStatistics(m_settings, std::make_shared<FakeCustomization>());
+        requestAppStoreStatistics(m_settings, std::make_shared<Test::FakeCustomization>());
         QVERIFY(!m_settings->Has("is_first_show_appstore_statistic"));
     }
 

@@ -3,6 +3,7 @@
 #include "App/Application/LookAndFeelHandler.h"
 #include "App/Application/LookAndFeelManager.h"
 
+#include "EnglishLookAndFeel.h"
 #include "TestEnvironment.h"
 
 #include <QAction>
@@ -15,18 +16,6 @@ using namespace Ostrel::App;
 Q_DECLARE_METATYPE(std::string)
 
 namespace {
-
-class EnglishSystem : public LookAndFeelManager
-{
-public:
-    EnglishSystem()
-        : LookAndFeelManager(Core::ioPath(QStringLiteral(OSTREL_BUILD_ROOT)), "theme.title", {"base", "controls", "ostrel"}, {})
-    {
-    }
-
-protected:
-    QStringList GetSystemLanguages() const override { return {QStringLiteral("en-US")}; }
-};
 
 QStringList texts(const QMenu& menu)
 {
@@ -61,7 +50,7 @@ class HandlerTest : public QObject
 {
     Q_OBJECT
 private:
-    std::shared_ptr<EnglishSystem> m_manager;
+    std::shared_ptr<Test::EnglishLookAndFeel> m_manager;
     QMenu* m_locales = nullptr;
     QMenu* m_themes = nullptr;
     std::unique_ptr<LookAndFeelHandler> m_handler;
@@ -71,7 +60,9 @@ private slots:
 
     void init()
     {
-        m_manager = std::make_shared<EnglishSystem>();
+        m_manager = std::make_shared<Test::EnglishLookAndFeel>(
+            Core::ioPath(QStringLiteral(OSTREL_BUILD_ROOT)), "theme.title",
+            std::list<std::string>{"base", "controls", "ostrel"}, std::list<std::string>());
         m_manager->Initialize("en_US", "dark");
         m_locales = new QMenu;
         m_themes = new QMenu;

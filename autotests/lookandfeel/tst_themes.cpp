@@ -4,6 +4,7 @@
 #include "App/Application/LookAndFeelManager.h"
 #include "Interfaces/IQssPreprocessor.h"
 
+#include "EnglishLookAndFeel.h"
 #include "LogCapture.h"
 #include "TestEnvironment.h"
 
@@ -41,20 +42,10 @@ public:
     void Preprocess(QString& stylesheet) override { stylesheet = stylesheet.toUpper(); }
 };
 
-// The system's languages are the test's, not the machine's.
-class EnglishSystem : public LookAndFeelManager
-{
-public:
-    using LookAndFeelManager::LookAndFeelManager;
-
-protected:
-    QStringList GetSystemLanguages() const override { return {QStringLiteral("en-US")}; }
-};
-
 std::unique_ptr<LookAndFeelManager> realTree(const std::list<std::string>& baseNames = {})
 {
-    return std::make_unique<EnglishSystem>(Core::ioPath(kBuildRoot), kTitleFile, baseNames,
-                                                 std::list<std::string>());
+    return std::make_unique<Test::EnglishLookAndFeel>(Core::ioPath(kBuildRoot), kTitleFile, baseNames,
+                                                      std::list<std::string>());
 }
 
 QString sheet(LookAndFeelManager& manager)
@@ -334,7 +325,7 @@ private slots:
         QDir().mkpath(root + QStringLiteral("/resources/locales/ru_RU"));
 
         Test::LogCapture log;
-        EnglishSystem manager(Core::ioPath(root), kTitleFile, {}, {});
+        Test::EnglishLookAndFeel manager(Core::ioPath(root), kTitleFile, {}, {});
         std::list<std::string> listed = manager.GetThemes();
         listed.sort();
         QCOMPARE(listed, (std::list<std::string>{"broken", "dark", "light", "light"}));

@@ -6,56 +6,14 @@
 #include "Nag/QuickContent.h"
 #include "Nag/WebQuickContent.h"
 
+#include "RecordingHttpServer.h"
 #include "TestEnvironment.h"
-
-#include <QTcpServer>
-#include <QTcpSocket>
 
 using namespace Ostrel::App;
 using namespace Ostrel::App::NagScreen;
+using namespace Ostrel::Test;
 
 namespace {
-
-QByteArray httpReply(const QByteArray& status, const QByteArray& body)
-{
-    return "HTTP/1.1 " + status + "\r\nContent-Type: text/plain\r\nContent-Length: " +
-           QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body;
-}
-
-// A nag server on 127.0.0.1: answers each request with `reply`, or stays silent when it is empty.
-class NagServer : public QTcpServer
-{
-public:
-    QByteArray reply;
-    QStringList requests;
-    NagServer()
-    {
-        connect(this, &QTcpServer::newConnection, this, [this]() {
-            while (QTcpSocket* socket = nextPendingConnection()) {
-                connect(socket, &QTcpSocket::readyRead, socket, [this, socket]() {
-                    const QByteArray request = socket->readAll();
-                    const QString line = QString::fromLatin1(request.left(request.indexOf('\r')));
-                    // The QML engine also asks for the folder's qmldir, which a nag server hasn't.
-                    if (line.contains(QLatin1String("/qmldir"))) {
-                        socket->write(httpReply("404 Not Found", ""));
-                        socket->disconnectFromHost();
-                        return;
-                    }
-                    requests << line;
-                    if (!reply.isEmpty()) {
-                        socket->write(reply);
-                        socket->disconnectFromHost();
-                    }
-                });
-            }
-        });
-        listen(QHostAddress::LocalHost);
-    }
-    QUrl url(const QString& path) const
-    {
-        return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(path));
-    }
-};
 
 class FixedGenerator : public IWebNagUrlGenerator
 {
@@ -123,9 +81,12 @@ private Q_SLOTS:
 
     void aWebNagLoadsFromTheGeneratedAddress()
     {
-        NagServer server;
-        server.reply = httpReply("200 OK", "import QtQuick 2.15\nItem { width: 400; height: 250; "
-                                           "readonly property string nag_id: \"web_1\" }\n");
+        RecordingHttpServer server;
+        // The QML engine also asks for the folder's qmldir, which a nag server hasn't.
+        server.setReplyFor("/nag/qmldir", RecordingHttpServer::response(404));
+        server.setReply(RecordingHttpServer::response(200,
+                                                      "import QtQuick 2.15\nItem { width: 400; height: 250; "
+                                                      "readonly property string nag_id: \"web_1\" }\n"));
         WebQuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")}, QUrl(),
                                 environment(server.url(QStringLiteral("/nag/main.qml")), 5000));
         QCOMPARE(loadAndWait(content), ContentState::Ready);
@@ -139,20 +100,22 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("reply");
         QTest::addColumn<int>("timeoutMs");
-        QTest::newRow("404") << httpReply("404 Not Found", "gone") << 5000;
-        QTest::newRow("not QML") << httpReply("200 OK", "<html>sorry</html>") << 5000;
+        QTest::newRow("404") << RecordingHttpServer::response(404, "gone") << 5000;
+        QTest::newRow("not QML") << RecordingHttpServer::response(200, "<html>sorry</html>") << 5000;
         QTest::newRow("never answers") << QByteArray() << 300;
     }
     void aWebNagThatIsNotThereFails()
     {
         QFETCH(QByteArray, reply);
         QFETCH(int, timeoutMs);
-        NagServer server;
-        server.reply = reply;
+        RecordingHttpServer server;
+        // The QML engine also asks for the folder's qmldir, which a nag server hasn't.
+        server.setReplyFor("/nag/qmldir", RecordingHttpServer::response(404));
+        server.setReply(reply);
         WebQuickContent content(NagContext{QStringLiteral("app_close"), QStringLiteral("free")}, QUrl(),
                                 environment(server.url(QStringLiteral("/nag/main.qml")), timeoutMs));
         QCOMPARE(loadAndWait(content), ContentState::Failed);
-        QCOMPARE(server.requests.size(), 1);
+        QCOMPARE(server.requestsTo("/nag/main.qml").size(), 1);
     }
 };
 

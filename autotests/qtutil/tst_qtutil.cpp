@@ -1,33 +1,14 @@
-#include "Interfaces/ICustomizationManager.h"
 #include "QtUtil/ApplicationVisibleVersion.h"
 #include "QtUtil/HardwareInfoReport.h"
 #include "QtUtil/SpontaneousDialog.h"
 #include "QtUtil/Utf8.h"
+
+#include "FakeCustomization.h"
 #include "TestEnvironment.h"
 
 #include <QApplication>
 #include <QMainWindow>
 #include <QPushButton>
-
-namespace {
-
-class FixedCustomization : public Ostrel::App::ICustomizationManager
-{
-public:
-    std::string GetApplicationName() const override { return "Ostrel Capture"; }
-    std::string GetVersion() const override { return "2.5.0.0"; }
-    std::string GetOrganizationName() const override { return "Ostrel"; }
-    std::string GetPartnerName() const override { return "ostrel"; }
-    std::string GetModuleName() const override { return "capture"; }
-    std::string GetBrand() const override { return "ostrel"; }
-    bool IsEmailCollectionEnabled() const override { return false; }
-    std::string GetPageType() const override { return "thankyou"; }
-    std::pair<std::string, std::string> GetUserAgent() const override { return {"a", "b"}; }
-    std::string GetPresentableName() const override { return "Ostrel Capture"; }
-    std::string GetInternalId() const override { return "ostrel-capture"; }
-};
-
-} // namespace
 
 class TestQtUtil : public QObject
 {
@@ -83,10 +64,10 @@ private slots:
 
     void hardwareInfoDescribesTheMachine()
     {
-        const QString info = Ostrel::Util::GetHardwareInfo(FixedCustomization());
+        const QString info = Ostrel::Util::GetHardwareInfo(Ostrel::Test::FakeCustomization());
         const QStringList lines = info.split(QLatin1Char('\n'));
         QVERIFY2(lines.size() >= 5, qPrintable(info));
-        QCOMPARE(lines.at(0), QStringLiteral("Application: Ostrel Capture 2.5 (2.5.0.0)"));
+        QCOMPARE(lines.at(0), QStringLiteral("Application: Links Probe 3.2.1 (3.2.1.0)"));
         QVERIFY2(lines.at(1).startsWith(QStringLiteral("OS: ")), qPrintable(info));
         QVERIFY2(lines.at(2).startsWith(QStringLiteral("CPU: ")) &&
                      !lines.at(2).contains(QStringLiteral("unknown")),

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <cstdlib>
 
@@ -34,8 +35,19 @@ void guardMessage(QtMsgType type, const QMessageLogContext& context, const QStri
 
 } // namespace
 
-void initTestEnvironment(const char* argv0)
+void setUpTestProcess(const char* argv0, bool qtWarningsFail)
 {
+    warningsFail = qtWarningsFail;
+    // No display and no GPU: the same pixels on every machine. The child processes of a test
+    // inherit all of this.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    // Qt warns without a runtime folder, and the application's lock files live there: each test
+    // process gets one of its own, so that no test meets a running product's lock or another
+    // test's. It is removed when the process ends.
+    static QTemporaryDir runtimeDir(QDir::tempPath() + QStringLiteral("/ostrel-test-runtime-XXXXXX"));
+    if (runtimeDir.isValid())
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtimeDir.path()));
     QStandardPaths::setTestModeEnabled(true);
     FLAGS_logtostderr = true;
     FLAGS_minloglevel = google::GLOG_INFO;
@@ -45,7 +57,6 @@ void initTestEnvironment(const char* argv0)
 
 int exec(QObject* test, int argc, char** argv)
 {
-    warningsFail = qEnvironmentVariableIntValue("OSTREL_QT_WARNINGS_FAIL") == 1;
     QTest::qInit(test, argc, argv);
     // Installed after QtTest's own handler, so that ours sees every message first.
     previousHandler = qInstallMessageHandler(guardMessage);

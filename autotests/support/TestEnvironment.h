@@ -2,16 +2,28 @@
 
 #include <QtTest>
 
+// Set per test target by ostrel_add_qtest: 0 for a test that provokes Qt warnings on purpose.
+#ifndef OSTREL_QT_WARNINGS_FAIL
+#define OSTREL_QT_WARNINGS_FAIL 1
+#endif
+
 namespace Ostrel::Test {
 
-/// What every test process does before anything else: settings and data folders in Qt's test
-/// locations (never the user's), glog to standard error only, no log files.
-void initTestEnvironment(const char* argv0);
+/// What every test process does before anything else, so that it runs the same started by hand
+/// as under CTest: the offscreen platform, Qt Quick in software, a runtime folder of its own,
+/// settings and data folders in Qt's test locations (never the user's), glog to standard error
+/// only. With `qtWarningsFail`, any Qt warning that a test function did not expect fails it.
+/// Must run before the QApplication exists.
+void setUpTestProcess(const char* argv0, bool qtWarningsFail);
+
+inline void initTestEnvironment(const char* argv0)
+{
+    setUpTestProcess(argv0, OSTREL_QT_WARNINGS_FAIL != 0);
+}
 
 /// Runs a QtTest object like QTest::qExec, with a guard on Qt's messages: messages that the
-/// offscreen platform prints for lack of features are dropped, and with OSTREL_QT_WARNINGS_FAIL=1
-/// in the environment (the test rig sets it) any other Qt warning fails the test function that
-/// caused it.
+/// offscreen platform prints for lack of features are dropped, and unexpected warnings fail
+/// the test function that caused them (see setUpTestProcess).
 int exec(QObject* test, int argc, char** argv);
 
 } // namespace Ostrel::Test

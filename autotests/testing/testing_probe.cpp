@@ -2,7 +2,10 @@
 // line, and some of them bring the process down. The first argument names the scenario, the rest is
 // the command line the harness sees. Results go to standard output, one "key=value" a line.
 
-#include "../links/Fakes.h"
+#include "FakeCustomization.h"
+#include "FakeHardware.h"
+#include "FakeLaunchType.h"
+#include "MemorySettings.h"
 
 #include "App/Application/Application.h"
 #include "App/Application/LifetimeManager.h"

@@ -3,7 +3,10 @@
 #include "TestEnvironment.h"
 #include "TestingProbe.h"
 
-#include "../links/Fakes.h"
+#include "FakeCustomization.h"
+#include "FakeHardware.h"
+#include "FakeLaunchType.h"
+#include "MemorySettings.h"
 
 #include "App/Application/LookAndFeelManager.h"
 #include "App/Application/Testing/TestNagContext_p.h"

@@ -6,10 +6,10 @@
 #include "App/Application/NagScreen/NagScreenEventHandler.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
-#include "../links/Fakes.h"
-#include "../tracking/RecordingTracker.h"
+#include "FakeLookAndFeel.h"
 #include "LogCapture.h"
 #include "NagFakes.h"
+#include "RecordingTracker.h"
 #include "TestEnvironment.h"
 
 #include <stdexcept>

@@ -5,10 +5,10 @@
 #include "Interfaces/IHttpClient.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
-#include "../links/Fakes.h"
-#include "../tracking/RecordingTracker.h"
 #include "LogCapture.h"
+#include "MemorySettings.h"
 #include "NagFakes.h"
+#include "RecordingTracker.h"
 #include "TestEnvironment.h"
 
 #include <QClipboard>

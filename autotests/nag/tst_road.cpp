@@ -18,8 +18,13 @@
 #include "Nag/NagManager.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
-#include "../links/Fakes.h"
-#include "../tracking/RecordingTracker.h"
+#include "FakeCustomization.h"
+#include "FakeHardware.h"
+#include "FakeLaunchType.h"
+#include "FakeLookAndFeel.h"
+#include "MemorySettings.h"
+#include "NoBrowserSources.h"
+#include "RecordingTracker.h"
 #include "TestEnvironment.h"
 
 #include <QDialog>
@@ -35,15 +40,6 @@ using namespace Ostrel::App::NagScreen;
 using namespace Ostrel::Test;
 
 namespace {
-
-class NoSources : public IBrowserSources
-{
-public:
-    std::map<QString, QString> processMap() const override { return {}; }
-    QStringList valueNames(const QString&) const override { return {}; }
-    QStringList subkeys(const QString&) const override { return {}; }
-    QString defaultValue(const QString&) const override { return {}; }
-};
 
 // As the web configuration of a product that collects fingerprints.
 class HashingNagsSettings : public WebConfig::DefaultNagsSettings
@@ -119,7 +115,7 @@ private Q_SLOTS:
         top.set<IUserSettingsManager>(user);
         top.set<ILinksManager>(links);
 
-        PreferredBrowser browser(nullptr, std::make_shared<NoSources>());
+        PreferredBrowser browser(nullptr, std::make_shared<NoBrowserSources>());
         browser.SetContextCallback([]() {
             return AbstractPreferredBrowser::PreferredBrowserContext{QString(), QString(), QStringLiteral(BROWSER_STUB)};
         });

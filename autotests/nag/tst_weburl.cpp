@@ -12,55 +12,20 @@
 #include "QtUtil/UrlProtocol.h"
 #include "QtUtil/Utf8.h"
 
-#include "../links/Fakes.h"
+#include "FakeCustomization.h"
+#include "FakeHardware.h"
+#include "FakeLaunchType.h"
+#include "FakeLookAndFeel.h"
+#include "MemorySettings.h"
+#include "RecordingHttpServer.h"
 #include "TestEnvironment.h"
 
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTemporaryDir>
 
 using namespace Ostrel;
 using namespace Ostrel::App;
 using namespace Ostrel::App::NagScreen;
 using namespace Ostrel::Test;
-
-namespace {
-
-// Serves one small QML nag at /nag/main.qml and keeps the request targets.
-class NagServer : public QObject
-{
-public:
-    NagServer()
-    {
-        connect(&server, &QTcpServer::newConnection, this, [this]() {
-            while (QTcpSocket* socket = server.nextPendingConnection()) {
-                connect(socket, &QTcpSocket::readyRead, socket, [this, socket]() {
-                    buffer += socket->readAll();
-                    if (!buffer.contains("\r\n\r\n"))
-                        return;
-                    const QByteArray target = buffer.split(' ').value(1);
-                    buffer.clear();
-                    // The engine also asks for the folder's qmldir: there is none.
-                    if (!target.startsWith("/nag/main.qml")) {
-                        socket->write("HTTP/1.1 404 Not Found\r\nConnection: close\r\nContent-Length: 0\r\n\r\n");
-                        socket->disconnectFromHost();
-                        return;
-                    }
-                    targets << target;
-                    const QByteArray body = "import QtQuick 2.15\nItem { width: 40; height: 30; property string nag_id: \"web_1\" }\n";
-                    socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\nConnection: close\r\nContent-Length: " +
-                                  QByteArray::number(body.size()) + "\r\n\r\n" + body);
-                    socket->disconnectFromHost();
-                });
-            }
-        });
-    }
-    QTcpServer server;
-    QByteArray buffer;
-    QByteArrayList targets;
-};
-
-} // namespace
 
 class WebUrlTest : public QObject
 {
@@ -171,9 +136,15 @@ private Q_SLOTS:
 
     void webNagFetchedFromTheGeneratedAddress()
     {
-        NagServer server;
-        QVERIFY(server.server.listen(QHostAddress::LocalHost));
-        const QString base = QStringLiteral("https://127.0.0.1:%1/nag/main.qml").arg(server.server.serverPort());
+        // Only the nag is there: the engine's question for the folder's qmldir gets a 404.
+        RecordingHttpServer server;
+        server.setReply(RecordingHttpServer::response(404));
+        server.setReplyFor("/nag/main.qml", RecordingHttpServer::response(
+                                                200, "import QtQuick 2.15\nItem { width: 40; height: 30; "
+                                                     "property string nag_id: \"web_1\" }\n"));
+        const QString base = server.url(QStringLiteral("/nag/main.qml"))
+                                 .toString()
+                                 .replace(QLatin1String("http:"), QLatin1String("https:"));
         customization->custom["Links/CUSTOM_WEB_NAG_URL"] = Util::QStringToUtf8(base);
         // The local server speaks plain HTTP: the switch a test run uses behind a proxy.
         Util::SetDefaultSslUsage(false);
@@ -189,10 +160,11 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(content.State(), ContentState::Ready, 10000);
         customization->custom.clear();
 
-        QCOMPARE(server.targets.size(), 1);
-        const QString http = QStringLiteral("http://127.0.0.1:%1/nag/main.qml").arg(server.server.serverPort());
-        QCOMPARE(QUrl::fromEncoded("http://127.0.0.1:" + QByteArray::number(server.server.serverPort()) + server.targets.front()),
-                 QUrl(expected(http, QStringLiteral("de")), QUrl::TolerantMode));
+        const auto requests = server.requestsTo("/nag/main.qml");
+        QCOMPARE(requests.size(), 1);
+        QCOMPARE(QUrl::fromEncoded(server.base().toLatin1() + requests.front().target),
+                 QUrl(expected(server.url(QStringLiteral("/nag/main.qml")).toString(), QStringLiteral("de")),
+                      QUrl::TolerantMode));
         QCOMPARE(content.Id(), QStringLiteral("web_1"));
     }
 
