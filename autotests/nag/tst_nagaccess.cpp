@@ -13,7 +13,11 @@
 #include "Nag/WebQuickContent.h"
 #include "QtUtil/Utf8.h"
 
-#include "../links/Fakes.h"
+#include "FakeCustomization.h"
+#include "FakeHardware.h"
+#include "FakeLaunchType.h"
+#include "FakeLookAndFeel.h"
+#include "MemorySettings.h"
 #include "LogCapture.h"
 #include "TestEnvironment.h"
 
