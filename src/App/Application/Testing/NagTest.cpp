@@ -29,15 +29,16 @@ namespace {
 const QCommandLineOption& delayOption()
 {
     static const QCommandLineOption option(QStringLiteral("test-show-nag-delay"),
-                                           QStringLiteral("Set show nag delay in ms"), QStringLiteral("delay"),
-                                           QStringLiteral("1000"));
+                                           QStringLiteral("Set show nag delay in ms"),
+                                           QStringLiteral("delay"), QStringLiteral("1000"));
     return option;
 }
 
 const QCommandLineOption& screensOption()
 {
     static const QCommandLineOption option(QStringLiteral("test-nag-screens"),
-                                           QStringLiteral("Get NagScreens screenshots"), QStringLiteral("appActions"));
+                                           QStringLiteral("Get NagScreens screenshots"),
+                                           QStringLiteral("appActions"));
     return option;
 }
 
@@ -51,7 +52,8 @@ const QCommandLineOption& groupOption()
 const QCommandLineOption& dirOption()
 {
     static const QCommandLineOption option(QStringLiteral("test-nag-screens-dir"),
-                                           QStringLiteral("NagScreens screenshots dir"), QStringLiteral("dir"));
+                                           QStringLiteral("NagScreens screenshots dir"),
+                                           QStringLiteral("dir"));
     return option;
 }
 
@@ -68,10 +70,6 @@ const QCommandLineOption& helperOption()
                                            QStringLiteral("Show nag executer window"));
     return option;
 }
-
-// The moment a nag stays before its picture is taken: long enough for the first frame and the
-// dialog's own placement.
-constexpr int kPictureDelayMs = 300;
 
 void writeText(const QString& path, const QString& text)
 {
@@ -94,11 +92,14 @@ public:
     std::shared_ptr<ILookAndFeelManager> lookAndFeelManager;
     std::shared_ptr<NagScreen::IManager> nagManager;
     DummytTestLocales locales;
+    // The moment a nag stays before its picture is taken: long enough for the first frame and the
+    // dialog's own placement.
+    std::chrono::milliseconds pictureDelay{300};
 
     void prepare(TestNagContext& context) const;
     void walk(const TestNagContext& context) const;
-    void show(NagScreen::AbstractContent& content, const QString& folder, const QString& name, const QString& locale,
-              int delay, NagHashTable& hashes) const;
+    void show(NagScreen::AbstractContent& content, const QString& folder, const QString& name,
+              const QString& locale, int delay, NagHashTable& hashes) const;
 };
 
 void NagTest::Impl::prepare(TestNagContext& context) const
@@ -114,7 +115,8 @@ void NagTest::Impl::prepare(TestNagContext& context) const
         LOG(ERROR) << "Nag screen manager is not configured";
         return;
     }
-    for (const QString& mode : {NagScreen::AppMode::Free(), NagScreen::AppMode::Trial(), NagScreen::AppMode::Licensed()})
+    for (const QString& mode :
+         {NagScreen::AppMode::Free(), NagScreen::AppMode::Trial(), NagScreen::AppMode::Licensed()})
         context.actions[mode] = config->ActionsForMode(mode);
     if (context.appActions.isEmpty())
         return;
@@ -133,9 +135,10 @@ void NagTest::Impl::walk(const TestNagContext& context) const
         return;
     }
     const std::string previousLocale = lookAndFeelManager->GetCurrentLocale();
-    const QString root = context.dir.isEmpty()
-                             ? QDir::toNativeSeparators(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation))
-                             : context.dir;
+    const QString root =
+        context.dir.isEmpty()
+            ? QDir::toNativeSeparators(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation))
+            : context.dir;
     const QString separator = QDir::separator();
     // root/NagScreenshots/<locale>/<module>/, or root/NagScreenshots/<module>/ for all locales together.
     const QString nameTemplate = root + separator + QStringLiteral("NagScreenshots") + separator +
@@ -156,14 +159,17 @@ void NagTest::Impl::walk(const TestNagContext& context) const
                 const NagScreen::NagContext nagContext{action, mode, 1};
                 const QString name =
                     (context.path.isEmpty()
-                         ? mode + QLatin1Char('-') + NagScreen::ImplName(record.implementation) + QLatin1Char('-') + action
+                         ? mode + QLatin1Char('-') + NagScreen::ImplName(record.implementation) +
+                               QLatin1Char('-') + action
                          : QFileInfo(context.path).absoluteDir().dirName()) +
                     suffix;
                 QString webUrl = QStringLiteral("UNDEFINED");
-                std::unique_ptr<NagScreen::AbstractContent> content = factory->Create(record.implementation, nagContext);
+                std::unique_ptr<NagScreen::AbstractContent> content =
+                    factory->Create(record.implementation, nagContext);
                 if (content) {
                     QEventLoop loop;
-                    QObject::connect(content.get(), &NagScreen::AbstractContent::StateChanged, &loop, &QEventLoop::quit);
+                    QObject::connect(content.get(), &NagScreen::AbstractContent::StateChanged, &loop,
+                                     &QEventLoop::quit);
                     if (context.path.isEmpty())
                         content->Load();
                     else
@@ -195,7 +201,7 @@ void NagTest::Impl::show(NagScreen::AbstractContent& content, const QString& fol
     // Both timers have the content as context: they die with it, which is what keeps the
     // references to the walk's locals safe.
     NagScreen::AbstractContent* shown = &content;
-    QTimer::singleShot(kPictureDelayMs, shown, [shown, &folder, &name, &locale, delay, &hashes]() {
+    QTimer::singleShot(pictureDelay, shown, [shown, &folder, &name, &locale, delay, &hashes]() {
         const QPixmap picture = shown->Picture();
         StorePixmap(picture.isNull() ? PlaceholderPixmap() : picture, folder, name);
         hashes[name][locale] = {shown->DeclaredHash(), shown->ComputedHash()};
@@ -250,10 +256,15 @@ void NagTest::run(const QCommandLineParser& parser)
     }
 }
 
+void NagTest::setPictureDelay(std::chrono::milliseconds delay)
+{
+    d->pictureDelay = delay;
+}
+
 QList<QCommandLineOption> NagTest::getCLO() const
 {
-    return QList<QCommandLineOption>{delayOption(), screensOption(), groupOption(), dirOption(), pathOption(),
-                                     helperOption()} +
+    return QList<QCommandLineOption>{delayOption(), screensOption(), groupOption(),
+                                     dirOption(),   pathOption(),    helperOption()} +
            d->locales.getCLO();
 }
 

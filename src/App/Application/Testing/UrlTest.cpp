@@ -19,6 +19,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <optional>
 #include <vector>
 
 namespace Ostrel::App {
@@ -27,28 +28,30 @@ namespace {
 
 const QCommandLineOption& dumpOption()
 {
-    static const QCommandLineOption option(QStringLiteral("test-dump-urls"), QStringLiteral("Write URLs to dump file"));
+    static const QCommandLineOption option(QStringLiteral("test-dump-urls"),
+                                           QStringLiteral("Write URLs to dump file"));
     return option;
 }
 
 const QCommandLineOption& openOption()
 {
-    static const QCommandLineOption option(QStringLiteral("test-open-urls"), QStringLiteral("Open URLs in browser"));
+    static const QCommandLineOption option(QStringLiteral("test-open-urls"),
+                                           QStringLiteral("Open URLs in browser"));
     return option;
 }
 
 const QCommandLineOption& logOption()
 {
-    static const QCommandLineOption option(QStringLiteral("test-log-urls"), QStringLiteral("Log opened URLs to file"),
-                                           QStringLiteral("path"));
+    static const QCommandLineOption option(QStringLiteral("test-log-urls"),
+                                           QStringLiteral("Log opened URLs to file"), QStringLiteral("path"));
     return option;
 }
 
 const QCommandLineOption& delayOption()
 {
     static const QCommandLineOption option(QStringLiteral("test-open-urls-delay"),
-                                           QStringLiteral("Set open url delay in ms"), QStringLiteral("delay"),
-                                           QStringLiteral("1000"));
+                                           QStringLiteral("Set open url delay in ms"),
+                                           QStringLiteral("delay"), QStringLiteral("1000"));
     return option;
 }
 
@@ -78,6 +81,9 @@ public:
     DummytTestLocales locales;
     // The opening timers die with the test.
     QObject timerContext;
+    std::optional<int> ownNextOpenDelay;
+
+    int& nextDelay() { return ownNextOpenDelay ? *ownNextOpenDelay : nextOpenDelay(); }
 
     std::string moduleName() const
     {
@@ -151,9 +157,9 @@ void UrlTest::Impl::testUrls(const QString& path, const std::list<std::string>& 
 void UrlTest::Impl::openRecords(const std::vector<UrlRecord>& records, int delay)
 {
     for (const UrlRecord& record : records) {
-        QTimer::singleShot(nextOpenDelay(), &timerContext,
+        QTimer::singleShot(nextDelay(), &timerContext,
                            [this, record]() { linksManager->OpenUrl(Util::Utf8ToQString(record.url)); });
-        nextOpenDelay() += delay;
+        nextDelay() += delay;
     }
 }
 
@@ -194,13 +200,19 @@ void UrlTest::run(const QCommandLineParser& parser)
 
 QList<QCommandLineOption> UrlTest::getCLO() const
 {
-    return QList<QCommandLineOption>{dumpOption(), openOption(), logOption(), delayOption()} + d->locales.getCLO();
+    return QList<QCommandLineOption>{dumpOption(), openOption(), logOption(), delayOption()} +
+           d->locales.getCLO();
 }
 
 QString UrlTest::dumpFilePath() const
 {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + QLatin1Char('/') +
            Util::Utf8ToQString(d->moduleName()) + QStringLiteral("-url-dump.csv");
+}
+
+void UrlTest::setFirstOpenDelay(std::chrono::milliseconds delay)
+{
+    d->ownNextOpenDelay = static_cast<int>(delay.count());
 }
 
 } // namespace Ostrel::App

@@ -3,18 +3,47 @@
 #include "App/Application/Extensions/Tyfi/OwnWindowCheck_p.h"
 
 #include <atomic>
+#include <condition_variable>
+#include <mutex>
 
 namespace Ostrel::App {
 
 namespace {
-constexpr int kMaxAttempts = 40;
-constexpr unsigned long kPauseMs = 300;
-
 // Shared by every waiter; written by the GUI thread and the helper thread.
 std::atomic<bool> waiting{false};
 } // namespace
 
-OpenWindowWaiter::OpenWindowWaiter()
+class OpenWindowWaiter::Impl
+{
+public:
+    explicit Impl(const WindowWaitTimings& waitTimings) : timings(waitTimings) {}
+
+    // Returns early when the waiter is being destroyed, so that its destructor never sits out a
+    // whole pause.
+    void pause()
+    {
+        std::unique_lock<std::mutex> lock(mutex);
+        stopped.wait_for(lock, timings.pause, [this]() { return stopping; });
+    }
+
+    void stop()
+    {
+        {
+            std::lock_guard<std::mutex> lock(mutex);
+            stopping = true;
+        }
+        stopped.notify_all();
+    }
+
+    const WindowWaitTimings timings;
+    std::mutex mutex;
+    std::condition_variable stopped;
+    bool stopping = false;
+};
+
+OpenWindowWaiter::OpenWindowWaiter() : OpenWindowWaiter(WindowWaitTimings()) {}
+
+OpenWindowWaiter::OpenWindowWaiter(const WindowWaitTimings& timings) : d(std::make_unique<Impl>(timings))
 {
     PrepareOwnWindowCheck();
     moveToThread(&thread);
@@ -26,6 +55,7 @@ OpenWindowWaiter::OpenWindowWaiter()
 OpenWindowWaiter::~OpenWindowWaiter()
 {
     waiting = false;
+    d->stop();
     thread.quit();
     thread.wait();
 }
@@ -38,13 +68,14 @@ void OpenWindowWaiter::Start()
 
 void OpenWindowWaiter::waitLoop()
 {
-    int remaining = kMaxAttempts;
+    const int maxAttempts = d->timings.maxAttempts;
+    int remaining = maxAttempts;
     while (waiting && remaining >= 1) {
         CheckForOwnWindow(waiting);
-        QThread::msleep(kPauseMs);
+        d->pause();
         --remaining;
     }
-    emit Finished(kMaxAttempts - remaining);
+    emit Finished(maxAttempts - remaining);
 }
 
 } // namespace Ostrel::App
