@@ -19,6 +19,9 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
+#include <atomic>
+#include <thread>
+
 using namespace Ostrel;
 using namespace Ostrel::App;
 using namespace Ostrel::Test;
@@ -302,6 +305,27 @@ private slots:
         subject.reset();
         http->pending.front()({200, {}, {}});
         QVERIFY(!m_mail->Has("IsRegUser"));
+    }
+
+    // An HTTP client may answer on a thread of its own: once the sender is gone, no callback runs,
+    // not even one that had begun (what it touches may die with the sender).
+    void anAnswerOnAnotherThreadNeverOutlivesTheSender()
+    {
+        const auto http = std::make_shared<PendingHttpClient>();
+        auto sender = std::make_unique<EmailSender>(std::make_shared<RecordingLinks>(), http, m_mail);
+        int calls = 0; // plain: only the sender's lock orders the two threads
+        sender->SendEmail({}, [&calls](bool, const std::string&) { ++calls; });
+        std::atomic<bool> answering{false};
+        std::thread answer([&]() {
+            answering = true;
+            http->pending.front()({200, {}, {}});
+        });
+        while (!answering)
+            std::this_thread::yield();
+        sender.reset();
+        const int afterDestruction = calls;
+        answer.join();
+        QCOMPARE(calls, afterDestruction);
     }
 
     void nullArguments()

@@ -5,6 +5,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
+#include <thread>
 
 namespace Ostrel::App {
 
@@ -39,6 +40,7 @@ public:
     std::mutex mutex;
     std::condition_variable stopped;
     bool stopping = false;
+    std::thread thread;
 };
 
 OpenWindowWaiter::OpenWindowWaiter() : OpenWindowWaiter(WindowWaitTimings()) {}
@@ -46,24 +48,24 @@ OpenWindowWaiter::OpenWindowWaiter() : OpenWindowWaiter(WindowWaitTimings()) {}
 OpenWindowWaiter::OpenWindowWaiter(const WindowWaitTimings& timings) : d(std::make_unique<Impl>(timings))
 {
     PrepareOwnWindowCheck();
-    moveToThread(&thread);
-    connect(&thread, &QThread::started, this, &OpenWindowWaiter::waitLoop);
-    // Direct: quit is thread-safe, and the helper thread must end even while the GUI thread is busy.
-    connect(this, &OpenWindowWaiter::Finished, &thread, &QThread::quit, Qt::DirectConnection);
 }
 
 OpenWindowWaiter::~OpenWindowWaiter()
 {
     waiting = false;
     d->stop();
-    thread.quit();
-    thread.wait();
+    if (d->thread.joinable())
+        d->thread.join();
 }
 
 void OpenWindowWaiter::Start()
 {
+    // One wait per waiter: a second start does nothing.
+    if (d->thread.joinable())
+        return;
     waiting = true;
-    thread.start(QThread::InheritPriority);
+    // A new thread inherits the priority of the one that makes it.
+    d->thread = std::thread([this]() { waitLoop(); });
 }
 
 void OpenWindowWaiter::waitLoop()

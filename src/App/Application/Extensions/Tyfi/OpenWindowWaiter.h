@@ -3,7 +3,6 @@
 #include "App/Application/ostrel_app_export.h"
 
 #include <QObject>
-#include <QThread>
 
 #include <chrono>
 #include <memory>
@@ -20,6 +19,9 @@ struct WindowWaitTimings
 /// Waits on a helper thread until this process shows a visible top-level window: up to 40
 /// attempts, 300 ms apart unless told otherwise (the pause is taken after a successful attempt
 /// too). Finished carries the number of attempts made and is emitted on the helper thread.
+///
+/// The helper thread is a plain std::thread, joined by the destructor: unlike QThread's own
+/// wait, a join is a synchronisation that race checkers see.
 ///
 /// All waiters share one flag, so only one should wait at a time.
 class OSTREL_APP_EXPORT OpenWindowWaiter : public QObject
@@ -43,7 +45,6 @@ private:
 
     class Impl;
     std::unique_ptr<Impl> d;
-    QThread thread;
 };
 
 } // namespace Ostrel::App
