@@ -12,6 +12,7 @@
 
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QDeadlineTimer>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -32,8 +33,12 @@ QMap<QString, QString> probe(const QStringList& arguments)
     process.setProcessEnvironment(env);
     process.start(QStringLiteral(LOOKANDFEEL_PROBE), arguments);
     QMap<QString, QString> values;
-    if (!process.waitForFinished(60000) || process.exitCode() != 0)
+    // Bounded: a probe that hangs fails the row within seconds.
+    if (!process.waitForFinished(10000) || process.exitCode() != 0) {
+        process.kill();
+        process.waitForFinished();
         return values;
+    }
     const QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'));
     for (const QString& line : lines) {
         const int equals = line.indexOf(QLatin1Char('='));
@@ -43,14 +48,21 @@ QMap<QString, QString> probe(const QStringList& arguments)
     return values;
 }
 
-// Acts on the next modal box as soon as it shows, like a person in front of the screen.
+// Acts on the next modal box as soon as it shows, like a person in front of the screen. Gives up
+// after five seconds, so that a box that never came cannot be answered in a later row.
 void whenShown(const std::function<void(QMessageBox*)>& act)
 {
     auto* timer = new QTimer;
-    QObject::connect(timer, &QTimer::timeout, [timer, act]() {
+    const QDeadlineTimer deadline(5000);
+    QObject::connect(timer, &QTimer::timeout, [timer, act, deadline]() {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box || !box->isVisible())
+        if (!box || !box->isVisible()) {
+            if (deadline.hasExpired()) {
+                timer->stop();
+                timer->deleteLater();
+            }
             return;
+        }
         timer->stop();
         timer->deleteLater();
         act(box);
@@ -90,10 +102,34 @@ private:
     QTemporaryDir m_dir;
     QString m_file;
     std::shared_ptr<ApplicationSettingsManager> m_settings;
+    // A box that nobody answers (one that should not have shown) is closed after ten seconds, and
+    // the row fails, instead of the test hanging.
+    QTimer m_boxGuard;
+    bool m_boxLeftOpen = false;
 
 private slots:
+    void initTestCase()
+    {
+        m_boxGuard.setSingleShot(true);
+        connect(&m_boxGuard, &QTimer::timeout, this, [this]() {
+            QWidget* box = QApplication::activeModalWidget();
+            m_boxLeftOpen = box != nullptr;
+            // Rejected rather than closed: a message box without an escape button ignores a close.
+            if (auto* dialog = qobject_cast<QDialog*>(box))
+                dialog->reject();
+        });
+    }
+
+    void cleanup()
+    {
+        m_boxGuard.stop();
+        QVERIFY2(!m_boxLeftOpen, "a box stayed open without an answer");
+    }
+
     void init()
     {
+        m_boxLeftOpen = false;
+        m_boxGuard.start(10000);
         m_file = m_dir.filePath(QStringLiteral("%1.ini").arg(QString::fromLatin1(QTest::currentTestFunction()) +
                                                              QString::fromLatin1(QTest::currentDataTag())));
         m_file.replace(QLatin1Char(' '), QLatin1Char('_'));
