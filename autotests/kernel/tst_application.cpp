@@ -276,6 +276,7 @@ private Q_SLOTS:
         other.show();
         other.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&other));
+        // A check that nothing comes: the activation's events have had their turn.
         QTest::qWait(50);
         QCOMPARE(m_splash->dismissals, 2);
     }
