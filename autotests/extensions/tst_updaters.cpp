@@ -94,6 +94,13 @@ private slots:
         // The request waits for its timer, never comes from onStart itself.
         QCOMPARE(calls, std::vector<int>(std::size(rows), 0));
 
+        // A requester told to wait an hour is still waiting when the short ones are through.
+        AutoUpdateRequester patient(customization, std::make_shared<MemoryProductSettings>());
+        patient.setRequestDelay(std::chrono::hours(1));
+        bool patientCalled = false;
+        patient.setAutoUpdateRequestCallback([&patientCalled]() { patientCalled = true; });
+        patient.onStart();
+
         // Timers of one delay fire in the order they were started: once the last one has, every
         // request the rows made has come.
         AutoUpdateRequester last(customization, std::make_shared<MemoryProductSettings>());
@@ -105,6 +112,7 @@ private slots:
         for (size_t i = 0; i < std::size(rows); ++i)
             QVERIFY2(calls[i] == rows[i].expected, rows[i].name);
         QCOMPARE(callsOfDestroyed, 0);
+        QVERIFY(!patientCalled);
     }
 };
 
