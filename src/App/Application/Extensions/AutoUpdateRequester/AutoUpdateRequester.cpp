@@ -18,7 +18,8 @@ class AutoUpdateRequester::Impl
 public:
     Impl(const std::shared_ptr<ICustomizationManager>& customization,
          const std::shared_ptr<IProductSettingsManager>& settings)
-        : customizationManager(customization), productSettingsManager(settings)
+        : customizationManager(customization)
+        , productSettingsManager(settings)
     {
     }
     Core::NotNull<std::shared_ptr<ICustomizationManager>> customizationManager;
@@ -29,9 +30,8 @@ public:
     QObject timerContext;
 };
 
-AutoUpdateRequester::AutoUpdateRequester(
-    const std::shared_ptr<ICustomizationManager>& customizationManager,
-    const std::shared_ptr<IProductSettingsManager>& productSettingsManager)
+AutoUpdateRequester::AutoUpdateRequester(const std::shared_ptr<ICustomizationManager>& customizationManager,
+                                         const std::shared_ptr<IProductSettingsManager>& productSettingsManager)
     : d(std::make_unique<Impl>(customizationManager, productSettingsManager))
 {
 }

@@ -32,9 +32,12 @@ public:
          const std::shared_ptr<IProductSettingsManager>& productSettings,
          const std::shared_ptr<ILaunchTypeProcessor>& launchType,
          const std::shared_ptr<ExternalStimulus::IGateway>& gatewayArgument)
-        : customizationManager(customization), linksManager(links),
-          installerSettingsManager(installerSettings), productSettingsManager(productSettings),
-          launchTypeProcessor(launchType), gateway(gatewayArgument)
+        : customizationManager(customization)
+        , linksManager(links)
+        , installerSettingsManager(installerSettings)
+        , productSettingsManager(productSettings)
+        , launchTypeProcessor(launchType)
+        , gateway(gatewayArgument)
     {
     }
 
@@ -99,8 +102,8 @@ Tyfi::Tyfi(const std::shared_ptr<ICustomizationManager>& customizationManager,
            const std::shared_ptr<IProductSettingsManager>& productSettingsManager,
            const std::shared_ptr<ILaunchTypeProcessor>& launchTypeProcessor,
            const std::shared_ptr<ExternalStimulus::IGateway>& gateway)
-    : d(std::make_unique<Impl>(customizationManager, linksManager, installerSettingsManager,
-                               productSettingsManager, launchTypeProcessor, gateway))
+    : d(std::make_unique<Impl>(customizationManager, linksManager, installerSettingsManager, productSettingsManager,
+                               launchTypeProcessor, gateway))
 {
 }
 
