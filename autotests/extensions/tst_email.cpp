@@ -14,9 +14,13 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QDeadlineTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+
+#include <atomic>
+#include <thread>
 
 using namespace Ostrel;
 using namespace Ostrel::App;
@@ -168,6 +172,7 @@ private slots:
         QCOMPARE(refused, !input.fixedEmail.isEmpty());
         QCOMPARE(QString::fromStdString(m_mail->values["isConfirmed"]), confirmed);
         if (!sent) {
+            // A check that no request comes: a send would have reached the local server by then.
             QTest::qWait(300);
             QVERIFY(server.requests().isEmpty());
             QVERIFY(!m_mail->Has("IsRegUser"));
@@ -264,6 +269,35 @@ private slots:
         subject.reset();
         http->pending.front()({200, {}, {}});
         QVERIFY(!m_mail->Has("IsRegUser"));
+    }
+
+    // An HTTP client may answer on a thread of its own: once the sender is gone, no callback runs,
+    // not even one that had begun (what it touches may die with the sender).
+    void anAnswerOnAnotherThreadNeverOutlivesTheSender()
+    {
+        const auto http = std::make_shared<PendingHttpClient>();
+        auto sender = std::make_unique<EmailSender>(std::make_shared<RecordingLinks>(), http, m_mail);
+        int calls = 0; // plain: only the sender's lock orders the two threads
+        std::atomic<bool> inCallback{false};
+        std::atomic<bool> destroyed{false};
+        sender->SendEmail({}, [&](bool, const std::string&) {
+            inCallback = true;
+            // A callback that is still busy when the destructor comes; a destructor that waits for
+            // it never sets `destroyed`, so the wait is bounded.
+            const QDeadlineTimer deadline(100);
+            while (!destroyed && !deadline.hasExpired())
+                std::this_thread::yield();
+            ++calls;
+        });
+        std::thread answer([&]() { http->pending.front()({200, {}, {}}); });
+        while (!inCallback)
+            std::this_thread::yield();
+        sender.reset();
+        destroyed = true;
+        const int afterDestruction = calls;
+        answer.join();
+        QCOMPARE(afterDestruction, 1);
+        QCOMPARE(calls, 1);
     }
 
     void nullArguments()

@@ -8,8 +8,11 @@
 #include "RecordingTracker.h"
 #include "TestEnvironment.h"
 
-#include <QElapsedTimer>
 #include <QWidget>
+
+#include <condition_variable>
+#include <mutex>
+#include <thread>
 
 using namespace Ostrel;
 using namespace Ostrel::App;
@@ -20,6 +23,39 @@ QString keyUrl(URLKeys key)
 {
     return RecordingLinks().GetUrl(key);
 }
+
+// The whole wait in a few milliseconds: the counts are what matter, not the clock.
+const WindowWaitTimings kShortWait{40, std::chrono::milliseconds(1)};
+
+// Ends the test process if it is still armed after ten seconds: a call that blocks the GUI thread
+// must fail the test, not hang it.
+class Watchdog
+{
+public:
+    explicit Watchdog(const char* what)
+        : m_thread([this, what]() {
+              std::unique_lock<std::mutex> lock(m_mutex);
+              if (!m_disarmed.wait_for(lock, std::chrono::seconds(10), [this]() { return m_done; }))
+                  qFatal("Still blocked after 10 s: %s", what);
+          })
+    {
+    }
+    ~Watchdog()
+    {
+        {
+            std::lock_guard<std::mutex> lock(m_mutex);
+            m_done = true;
+        }
+        m_disarmed.notify_all();
+        m_thread.join();
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_disarmed;
+    bool m_done = false;
+    std::thread m_thread;
+};
 } // namespace
 
 class TestTyfi : public QObject
@@ -33,10 +69,13 @@ class TestTyfi : public QObject
     std::shared_ptr<SettableLaunchType> m_launchType;
     std::shared_ptr<HoldingGateway> m_gateway;
 
-    std::unique_ptr<Tyfi> make(bool withGateway = false)
+    std::unique_ptr<Tyfi> make(bool withGateway = false, const WindowWaitTimings& timings = kShortWait)
     {
-        return std::make_unique<Tyfi>(m_customization, m_links, std::make_shared<MemoryInstallerSettings>(), m_product,
-                                      m_launchType, withGateway ? m_gateway : nullptr);
+        auto tyfi =
+            std::make_unique<Tyfi>(m_customization, m_links, std::make_shared<MemoryInstallerSettings>(),
+                                   m_product, m_launchType, withGateway ? m_gateway : nullptr);
+        tyfi->setWaitTimings(timings);
+        return tyfi;
     }
 
     // The attempt counts reported so far.
@@ -73,15 +112,22 @@ private slots:
         QTest::addColumn<QStringList>("opened");
 
         const QStringList none;
-        QTest::newRow("first launch, thank you") << 1 << "thankyou" << "" << true
-                                                 << QStringList{keyUrl(URLKeys::THANK_FOR_INSTALL_URL)};
-        QTest::newRow("update, thank you again") << 2 << "thankyou" << "" << true
-                                                 << QStringList{keyUrl(URLKeys::THANK_FOR_REINSTALL_URL)};
-        QTest::newRow("buy now") << 1 << "buynow" << "" << true << QStringList{keyUrl(URLKeys::BUY_NOW_URL_firststart)};
-        QTest::newRow("unknown page type waits, opens nothing") << 1 << "survey" << "" << true << none;
-        QTest::newRow("background launch") << 4 << "thankyou" << "" << false << none;
-        QTest::newRow("no page type") << 1 << "" << "" << false << none;
-        QTest::newRow("part of a bundle") << 1 << "thankyou" << "suite" << false << none;
+        QTest::newRow("first launch, thank you")
+            << 1 << "thankyou"
+            << "" << true << QStringList{keyUrl(URLKeys::THANK_FOR_INSTALL_URL)};
+        QTest::newRow("update, thank you again")
+            << 2 << "thankyou"
+            << "" << true << QStringList{keyUrl(URLKeys::THANK_FOR_REINSTALL_URL)};
+        QTest::newRow("buy now") << 1 << "buynow"
+                                 << "" << true << QStringList{keyUrl(URLKeys::BUY_NOW_URL_firststart)};
+        QTest::newRow("unknown page type waits, opens nothing") << 1 << "survey"
+                                                                << "" << true << none;
+        QTest::newRow("background launch") << 4 << "thankyou"
+                                           << "" << false << none;
+        QTest::newRow("no page type") << 1 << ""
+                                      << "" << false << none;
+        QTest::newRow("part of a bundle") << 1 << "thankyou"
+                                          << "suite" << false << none;
     }
 
     void pageOnceTheWindowShows()
@@ -98,12 +144,14 @@ private slots:
 
         QWidget window;
         window.show();
-        const auto tyfi = make();
+        // One attempt: a wait that should not have begun would report within a millisecond or so.
+        const auto tyfi = make(false, WindowWaitTimings{1, std::chrono::milliseconds(1)});
         tyfi->onStart();
         if (waits) {
             QTRY_COMPARE(reportedAttempts(), QStringList{QStringLiteral("1")});
         } else {
-            QTest::qWait(700);
+            // A check that nothing comes: the time of a wait that never began.
+            QTest::qWait(100);
             QCOMPARE(reportedAttempts(), QStringList());
         }
         QCOMPARE(m_links->opened, opened);
@@ -111,13 +159,14 @@ private slots:
 
     void windowShownLaterEndsTheWait()
     {
-        const auto tyfi = make();
+        // Attempts enough to outlast any machine: only the window can end this wait in time.
+        const auto tyfi = make(false, WindowWaitTimings{1000000, std::chrono::milliseconds(1)});
         tyfi->onStart();
         QWidget window;
-        QTimer::singleShot(1000, &window, &QWidget::show);
-        QTRY_COMPARE_WITH_TIMEOUT(reportedAttempts().size(), 1, 5000);
+        QTimer::singleShot(0, &window, &QWidget::show);
+        QTRY_COMPARE(reportedAttempts().size(), 1);
         const int attempts = reportedAttempts().first().toInt();
-        QVERIFY2(attempts >= 3 && attempts <= 6, qPrintable(reportedAttempts().first()));
+        QVERIFY2(attempts >= 1 && attempts < 1000000, qPrintable(reportedAttempts().first()));
         QCOMPARE(m_links->opened, QStringList{keyUrl(URLKeys::THANK_FOR_INSTALL_URL)});
     }
 
@@ -126,21 +175,24 @@ private slots:
         QWidget window;
         window.show();
         window.hide();
-        OpenWindowWaiter waiter;
-        QSignalSpy finished(&waiter, &OpenWindowWaiter::Finished);
+        OpenWindowWaiter waiter(WindowWaitTimings{7, std::chrono::milliseconds(1)});
+        // Queued to this thread, as Tyfi takes it: the signal comes on the helper thread.
+        QList<int> finished;
+        connect(&waiter, &OpenWindowWaiter::Finished, this,
+                [&finished](int attempts) { finished << attempts; });
         waiter.Start();
-        QTest::qWait(1000);
-        QCOMPARE(finished.count(), 0);
+        QTRY_COMPARE(finished, QList<int>{7});
     }
 
     void noWindowEverStillOpensThePage()
     {
-        QElapsedTimer clock;
-        clock.start();
+        const WindowWaitTimings specified;
+        QCOMPARE(specified.maxAttempts, 40);
+        QCOMPARE(specified.pause, std::chrono::milliseconds(300));
+
         const auto tyfi = make();
         tyfi->onStart();
-        QTRY_COMPARE_WITH_TIMEOUT(reportedAttempts(), QStringList{QStringLiteral("40")}, 16000);
-        QVERIFY2(clock.elapsed() >= 11500, qPrintable(QString::number(clock.elapsed())));
+        QTRY_COMPARE(reportedAttempts(), QStringList{QStringLiteral("40")});
         QCOMPARE(m_links->opened, QStringList{keyUrl(URLKeys::THANK_FOR_INSTALL_URL)});
     }
 
@@ -174,21 +226,23 @@ private slots:
         m_launchType->type = 4;
         tyfi->setCustomNeedOpenChecker({});
         tyfi->onStart();
-        QTest::qWait(500);
+        // A check that nothing comes: a wait begun by mistake would report within milliseconds.
+        QTest::qWait(100);
         QCOMPARE(reportedAttempts().size(), 1);
     }
 
     void destroyedWhileWaiting()
     {
-        auto tyfi = make();
+        // A pause of an hour: destruction must cut it short instead of sitting it out.
+        auto tyfi = make(false, WindowWaitTimings{40, std::chrono::hours(1)});
         tyfi->onStart();
-        QTest::qWait(100);
-        QElapsedTimer clock;
-        clock.start();
-        tyfi.reset();
-        QVERIFY2(clock.elapsed() < 450, qPrintable(QString::number(clock.elapsed())));
-        // The last report of the stopped waiter has nobody to reach.
-        QTest::qWait(400);
+        {
+            Watchdog watchdog("destroying a Tyfi whose waiter pauses");
+            tyfi.reset();
+        }
+        // The stopped waiter's last report was posted before its thread ended: it has nobody to
+        // reach.
+        QCoreApplication::sendPostedEvents();
         QVERIFY(m_links->opened.isEmpty());
         QCOMPARE(reportedAttempts(), QStringList());
     }
@@ -196,7 +250,8 @@ private slots:
     void nullArgumentsRaise()
     {
         const auto installer = std::make_shared<MemoryInstallerSettings>();
-        QVERIFY_EXCEPTION_THROWN(Tyfi(nullptr, m_links, installer, m_product, m_launchType, nullptr), std::logic_error);
+        QVERIFY_EXCEPTION_THROWN(Tyfi(nullptr, m_links, installer, m_product, m_launchType, nullptr),
+                                 std::logic_error);
         QVERIFY_EXCEPTION_THROWN(Tyfi(m_customization, m_links, installer, m_product, nullptr, m_gateway),
                                  std::logic_error);
         Tyfi withoutGateway(m_customization, m_links, installer, m_product, m_launchType, nullptr);

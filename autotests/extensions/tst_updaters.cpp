@@ -47,7 +47,7 @@ private slots:
                                  std::logic_error);
     }
 
-    // All rows share one wait of five seconds: each requester counts its own callbacks.
+    // The rows run side by side on a delay of a millisecond; each requester counts its own calls.
     void autoUpdateRequest()
     {
         struct Row
@@ -65,6 +65,7 @@ private slots:
             {"started twice", nullptr, 2, false, 2},
             {"callback set after the start", nullptr, 1, true, 1},
         };
+        const std::chrono::milliseconds delay(1);
         const auto customization = std::make_shared<ExtensionCustomization>();
         std::vector<std::unique_ptr<AutoUpdateRequester>> requesters;
         std::vector<int> calls(std::size(rows), 0);
@@ -73,6 +74,7 @@ private slots:
             if (rows[i].autoUpdate)
                 settings->values["autoUpdate"] = rows[i].autoUpdate;
             requesters.push_back(std::make_unique<AutoUpdateRequester>(customization, settings));
+            requesters.back()->setRequestDelay(delay);
             const auto count = [&calls, i]() { ++calls[i]; };
             if (!rows[i].callbackAfterStart)
                 requesters.back()->setAutoUpdateRequestCallback(count);
@@ -85,16 +87,32 @@ private slots:
         int callsOfDestroyed = 0;
         {
             AutoUpdateRequester gone(customization, std::make_shared<MemoryProductSettings>());
+            gone.setRequestDelay(delay);
             gone.setAutoUpdateRequestCallback([&callsOfDestroyed]() { ++callsOfDestroyed; });
             gone.onStart();
         }
-
-        QTest::qWait(4500);
+        // The request waits for its timer, never comes from onStart itself.
         QCOMPARE(calls, std::vector<int>(std::size(rows), 0));
-        QTest::qWait(1000);
+
+        // A requester told to wait an hour is still waiting when the short ones are through.
+        AutoUpdateRequester patient(customization, std::make_shared<MemoryProductSettings>());
+        patient.setRequestDelay(std::chrono::hours(1));
+        bool patientCalled = false;
+        patient.setAutoUpdateRequestCallback([&patientCalled]() { patientCalled = true; });
+        patient.onStart();
+
+        // Timers of one delay fire in the order they were started: once the last one has, every
+        // request the rows made has come.
+        AutoUpdateRequester last(customization, std::make_shared<MemoryProductSettings>());
+        last.setRequestDelay(delay);
+        bool lastCalled = false;
+        last.setAutoUpdateRequestCallback([&lastCalled]() { lastCalled = true; });
+        last.onStart();
+        QTRY_VERIFY(lastCalled);
         for (size_t i = 0; i < std::size(rows); ++i)
             QVERIFY2(calls[i] == rows[i].expected, rows[i].name);
         QCOMPARE(callsOfDestroyed, 0);
+        QVERIFY(!patientCalled);
     }
 };
 

@@ -14,6 +14,7 @@
 
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QDeadlineTimer>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -28,18 +29,25 @@ namespace {
 // The second process's "key=value" lines; empty when it failed.
 QMap<QString, QString> probe(const QStringList& arguments)
 {
-    const auto result = Test::ProbeRunner(QStringLiteral(LOOKANDFEEL_PROBE)).run(arguments);
+    const auto result = Test::ProbeRunner(QStringLiteral(LOOKANDFEEL_PROBE)).run(arguments, 10000);
     return result.finished && result.exitCode == 0 ? result.values : QMap<QString, QString>();
 }
 
-// Acts on the next modal box as soon as it shows, like a person in front of the screen.
+// Acts on the next modal box as soon as it shows, like a person in front of the screen. Gives up
+// after five seconds, so that a box that never came cannot be answered in a later row.
 void whenShown(const std::function<void(QMessageBox*)>& act)
 {
     auto* timer = new QTimer;
-    QObject::connect(timer, &QTimer::timeout, [timer, act]() {
+    const QDeadlineTimer deadline(5000);
+    QObject::connect(timer, &QTimer::timeout, [timer, act, deadline]() {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box || !box->isVisible())
+        if (!box || !box->isVisible()) {
+            if (deadline.hasExpired()) {
+                timer->stop();
+                timer->deleteLater();
+            }
             return;
+        }
         timer->stop();
         timer->deleteLater();
         act(box);
@@ -63,10 +71,34 @@ private:
     QTemporaryDir m_dir;
     QString m_file;
     std::shared_ptr<ApplicationSettingsManager> m_settings;
+    // A box that nobody answers (one that should not have shown) is closed after ten seconds, and
+    // the row fails, instead of the test hanging.
+    QTimer m_boxGuard;
+    bool m_boxLeftOpen = false;
 
 private slots:
+    void initTestCase()
+    {
+        m_boxGuard.setSingleShot(true);
+        connect(&m_boxGuard, &QTimer::timeout, this, [this]() {
+            QWidget* box = QApplication::activeModalWidget();
+            m_boxLeftOpen = box != nullptr;
+            // Rejected rather than closed: a message box without an escape button ignores a close.
+            if (auto* dialog = qobject_cast<QDialog*>(box))
+                dialog->reject();
+        });
+    }
+
+    void cleanup()
+    {
+        m_boxGuard.stop();
+        QVERIFY2(!m_boxLeftOpen, "a box stayed open without an answer");
+    }
+
     void init()
     {
+        m_boxLeftOpen = false;
+        m_boxGuard.start(10000);
         m_file = m_dir.filePath(QStringLiteral("%1.ini").arg(QString::fromLatin1(QTest::currentTestFunction()) +
                                                              QString::fromLatin1(QTest::currentDataTag())));
         m_file.replace(QLatin1Char(' '), QLatin1Char('_'));

@@ -70,7 +70,9 @@ QQuickItem* rootOf(const AbstractContent& content)
     return qobject_cast<QQuickWidget*>(content.GetUi())->rootObject();
 }
 
-// Runs `whileShown` once the nag's dialog is up, from inside its event loop.
+// Runs `whileShown` once the nag's dialog is up, from inside its event loop. A check that fails in
+// `whileShown` returns before the nag is ended: five seconds later the dialog is ended with a code
+// no row expects, so that the row fails instead of hanging the test.
 void whenShown(std::function<void(QDialog*)> whileShown)
 {
     auto* timer = new QTimer;
@@ -80,6 +82,10 @@ void whenShown(std::function<void(QDialog*)> whileShown)
             timer->stop();
             timer->deleteLater();
             whileShown(dialog);
+            QTimer::singleShot(5000, dialog, [dialog]() {
+                if (dialog->isVisible())
+                    dialog->done(-99);
+            });
         }
     });
     timer->start();

@@ -246,6 +246,7 @@ private Q_SLOTS:
         QVERIFY(observer.dontShow.at(QStringLiteral("before_routine")));
         manager.RemoveObserver(&observer);
         manager.ReloadNags("REASON_UNKNOWN");
+        // A check that nothing comes: the reload is queued, and a removed observer must not hear it.
         QTest::qWait(20);
         QCOMPARE(observer.reloads, 1);
     }

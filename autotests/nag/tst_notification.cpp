@@ -42,9 +42,9 @@ public:
 
 std::unique_ptr<QuickContent> loadedNag()
 {
-    auto content = std::make_unique<QuickContent>(NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
-                                                  QUrl(QStringLiteral("qrc:/test/qml/Growing.qml")),
-                                                  ContentEnvironment());
+    auto content = std::make_unique<QuickContent>(
+        NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
+        QUrl(QStringLiteral("qrc:/test/qml/Growing.qml")), ContentEnvironment());
     content->Load();
     return content;
 }
@@ -63,30 +63,40 @@ private Q_SLOTS:
         std::vector<CloseReason> reasons;
         {
             NotificationPopup popup(&content, false);
+            QCOMPARE(popup.FadeDuration(), 220);
+            popup.SetFadeDuration(1);
             popup.SetOnClosedCallback([&](CloseReason reason) { reasons.push_back(reason); });
             popup.SmoothShow();
             QVERIFY(popup.isVisible());
             popup.SmoothHide();
             popup.SmoothHide();
             QTRY_COMPARE(reasons.size(), std::size_t(1));
+            QCOMPARE(reasons.back(), CloseReason::Hidden);
             QVERIFY(!popup.isVisible());
-            QTest::qWait(NotificationPopup::FadeDurationMs() + 50);
+            popup.close(); // already closed: nothing to report
+            QCOMPARE(reasons.size(), std::size_t(1));
+            // A check that no second report comes: many times the fade's length.
+            QTest::qWait(50);
             QCOMPARE(reasons.size(), std::size_t(1));
 
             popup.SmoothShow();
             popup.close();
-            popup.SmoothHide();
-            QTest::qWait(NotificationPopup::FadeDurationMs() + 50);
             QCOMPARE(reasons.size(), std::size_t(2));
             QCOMPARE(reasons.back(), CloseReason::ClosedByUser);
+            popup.SmoothHide();
+            // A check that hiding a closed popup reports nothing: many times the fade's length.
+            QTest::qWait(50);
+            QCOMPARE(reasons.size(), std::size_t(2));
 
-            popup.SetAutoHideTimeout(30);
+            popup.SetAutoHideTimeout(1);
             popup.SmoothShow();
             QTRY_COMPARE(reasons.size(), std::size_t(3));
             QCOMPARE(reasons.back(), CloseReason::TimedOut);
             QCOMPARE(content.parentWidget(), &popup);
         }
         QVERIFY(!content.parentWidget()); // given back, not deleted
+        NotificationPopup autoHiding(nullptr, true);
+        QCOMPARE(autoHiding.AutoHideTimeout(), 8000);
     }
 
     void thePopupSitsInACornerOfTheScreen()
@@ -115,9 +125,26 @@ private Q_SLOTS:
         auto content = loadedNag();
         QPointer<QWidget> ui = content->GetUi();
         AbstractContent* raw = content.get();
-        QTimer::singleShot(50, raw, [raw, code]() { Q_EMIT raw->Finished(code, {}); });
+        int fade = -1;
+        QTimer::singleShot(0, raw, [raw, code, &fade]() {
+            if (const auto* popup = qobject_cast<NotificationPopup*>(raw->GetUi()->window()))
+                fade = popup->FadeDuration();
+            Q_EMIT raw->Finished(code, {});
+        });
+        // Bounded: a popup that the nag's ending does not hide is closed, and the row fails.
+        bool stuck = false;
+        QTimer guard;
+        guard.setSingleShot(true);
+        connect(&guard, &QTimer::timeout, raw, [raw, &stuck]() {
+            stuck = true;
+            raw->GetUi()->window()->close();
+        });
+        guard.start(5000);
         NotificationStrategy strategy;
+        strategy.SetFadeDuration(1);
         QCOMPARE(strategy.ShowNag(*content), 0);
+        QVERIFY(!stuck);
+        QCOMPARE(fade, 1);
         QVERIFY(ui && !ui->parentWidget());
     }
 
@@ -128,7 +155,8 @@ private Q_SLOTS:
         auto content = loadedNag();
         nagOpener->OpenUrl(*content, QStringLiteral("https://x.example/?a=1"), {{"k", 1}});
         nagOpener->OpenUrl(*content, BUY_NOW_URL_nag_authorization_window_buynow, {});
-        QCOMPARE(opener->opened, (QStringList{QStringLiteral("https://x.example/?a=1"), QStringLiteral("14")}));
+        QCOMPARE(opener->opened,
+                 (QStringList{QStringLiteral("https://x.example/?a=1"), QStringLiteral("14")}));
         opener.reset();
         nagOpener->OpenUrl(*content, QStringLiteral("https://y.example"), {}); // dropped, no crash
     }
@@ -137,7 +165,8 @@ private Q_SLOTS:
     {
         const auto inner = std::make_shared<PassStrategy>();
         CustomPathDecorator decorator(inner);
-        decorator.SetCustomPath(QStringLiteral("app_start"), QStringLiteral(":/NagScreen/app_close/main.qml"));
+        decorator.SetCustomPath(QStringLiteral("app_start"),
+                                QStringLiteral(":/NagScreen/app_close/main.qml"));
         auto content = loadedNag();
         QCOMPARE(decorator.ShowNag(*content), 4);
         QCOMPARE(inner->seen, QUrl(QStringLiteral("qrc:/NagScreen/app_close/main.qml")));

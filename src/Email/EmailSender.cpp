@@ -45,21 +45,20 @@ public:
     std::shared_ptr<IMailSettingsManager> mailSettings;
     std::chrono::milliseconds timeout{15000};
 
-    // The HTTP answer may come on another thread, and after the sender is gone: it only touches
-    // the settings while the sender still lives.
-    std::mutex aliveMutex;
+    // The HTTP answer may come on another thread, and after the sender is gone. The lock is held
+    // through the callback too, so that a destructor on another thread waits for a callback under
+    // way, and none starts after it: what the caller's callback touches may die with the sender.
+    // Recursive, since a callback may destroy the sender on its own thread.
+    std::recursive_mutex aliveMutex;
     bool alive = true;
 
     void finished(const Callback& callback, const Networking::HttpResponse& response)
     {
-        {
-            std::lock_guard<std::mutex> lock(aliveMutex);
-            if (!alive)
-                return;
-            if (response.error.empty())
-                mailSettings->SetString("IsRegUser", "1");
-        }
+        std::lock_guard<std::recursive_mutex> lock(aliveMutex);
+        if (!alive)
+            return;
         if (response.error.empty()) {
+            mailSettings->SetString("IsRegUser", "1");
             LOG(INFO) << "E-mail address registered";
             report(callback, true, std::string());
         } else {
@@ -84,7 +83,7 @@ EmailSender::EmailSender(const std::shared_ptr<ILinksGenerator>& linksGenerator,
 
 EmailSender::~EmailSender()
 {
-    std::lock_guard<std::mutex> lock(d->aliveMutex);
+    std::lock_guard<std::recursive_mutex> lock(d->aliveMutex);
     d->alive = false;
 }
 

@@ -11,7 +11,6 @@
 namespace Ostrel::DesktopNotification {
 
 namespace {
-constexpr int FadeMs = 220;
 constexpr int ScreenMargin = 16;
 } // namespace
 
@@ -42,7 +41,7 @@ NotificationPopup::NotificationPopup(QWidget* content, bool autoHide)
         d->layout->addWidget(content);
 
     d->fade = new QPropertyAnimation(this, "windowOpacity", this);
-    d->fade->setDuration(FadeMs);
+    d->fade->setDuration(DefaultFadeMs);
     connect(d->fade, &QPropertyAnimation::finished, this, [this]() {
         if (!d->hiding)
             return;
@@ -53,7 +52,7 @@ NotificationPopup::NotificationPopup(QWidget* content, bool autoHide)
 
     d->autoHide = new QTimer(this);
     d->autoHide->setSingleShot(true);
-    d->autoHide->setInterval(8000);
+    d->autoHide->setInterval(DefaultAutoHideMs);
     connect(d->autoHide, &QTimer::timeout, this, [this]() {
         d->hideReason = CloseReason::TimedOut;
         SmoothHide();
@@ -71,9 +70,14 @@ NotificationPopup::~NotificationPopup()
     }
 }
 
-int NotificationPopup::FadeDurationMs()
+int NotificationPopup::FadeDuration() const
 {
-    return FadeMs;
+    return d->fade->duration();
+}
+
+void NotificationPopup::SetFadeDuration(int milliseconds)
+{
+    d->fade->setDuration(milliseconds);
 }
 
 int NotificationPopup::AutoHideTimeout() const

@@ -20,6 +20,11 @@ class OSTREL_NOTIFICATION_EXPORT NotificationPopup : public QWidget
 {
     Q_OBJECT
 public:
+    /// How long a fade in or out takes unless SetFadeDuration says otherwise.
+    static constexpr int DefaultFadeMs = 220;
+    /// How long an auto-hiding popup stays unless SetAutoHideTimeout says otherwise.
+    static constexpr int DefaultAutoHideMs = 8000;
+
     /// With `autoHide`, the popup fades out by itself after AutoHideTimeout().
     NotificationPopup(QWidget* content, bool autoHide);
     ~NotificationPopup() override;
@@ -28,7 +33,8 @@ public:
     void SmoothHide();
     void SetOnClosedCallback(std::function<void(CloseReason)> callback);
 
-    static int FadeDurationMs();
+    int FadeDuration() const;
+    void SetFadeDuration(int milliseconds);
     int AutoHideTimeout() const;
     void SetAutoHideTimeout(int milliseconds);
 

@@ -11,11 +11,17 @@ int NotificationStrategy::ShowNag(AbstractContent& content)
 {
     QEventLoop loop;
     DesktopNotification::NotificationPopup popup(content.GetUi(), false);
+    popup.SetFadeDuration(m_fadeMs);
     QObject::connect(&content, &AbstractContent::Finished, &content, [&popup]() { popup.SmoothHide(); },
                      Qt::DirectConnection);
     popup.SmoothShow();
     popup.SetOnClosedCallback([&loop](DesktopNotification::CloseReason) { loop.exit(0); });
     return loop.exec();
+}
+
+void NotificationStrategy::SetFadeDuration(int milliseconds)
+{
+    m_fadeMs = milliseconds;
 }
 
 } // namespace Ostrel::App::NagScreen

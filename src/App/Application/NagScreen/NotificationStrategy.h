@@ -2,6 +2,7 @@
 
 #include "App/Application/ostrel_app_export.h"
 #include "Nag/IShowStrategy.h"
+#include "Notification/NotificationPopup.h"
 
 namespace Ostrel::App::NagScreen {
 
@@ -17,6 +18,12 @@ public:
     NotificationStrategy& operator=(NotificationStrategy&&) = default;
 
     int ShowNag(AbstractContent& content) override;
+
+    /// How long the popup fades in and out.
+    void SetFadeDuration(int milliseconds);
+
+private:
+    int m_fadeMs = DesktopNotification::NotificationPopup::DefaultFadeMs;
 };
 
 } // namespace Ostrel::App::NagScreen

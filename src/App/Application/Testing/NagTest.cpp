@@ -69,10 +69,6 @@ const QCommandLineOption& helperOption()
     return option;
 }
 
-// The moment a nag stays before its picture is taken: long enough for the first frame and the
-// dialog's own placement.
-constexpr int kPictureDelayMs = 300;
-
 void writeText(const QString& path, const QString& text)
 {
     QFile file(path);
@@ -94,6 +90,9 @@ public:
     std::shared_ptr<ILookAndFeelManager> lookAndFeelManager;
     std::shared_ptr<NagScreen::IManager> nagManager;
     DummytTestLocales locales;
+    // The moment a nag stays before its picture is taken: long enough for the first frame and the
+    // dialog's own placement.
+    std::chrono::milliseconds pictureDelay{300};
 
     void prepare(TestNagContext& context) const;
     void walk(const TestNagContext& context) const;
@@ -195,7 +194,7 @@ void NagTest::Impl::show(NagScreen::AbstractContent& content, const QString& fol
     // Both timers have the content as context: they die with it, which is what keeps the
     // references to the walk's locals safe.
     NagScreen::AbstractContent* shown = &content;
-    QTimer::singleShot(kPictureDelayMs, shown, [shown, &folder, &name, &locale, delay, &hashes]() {
+    QTimer::singleShot(pictureDelay, shown, [shown, &folder, &name, &locale, delay, &hashes]() {
         const QPixmap picture = shown->Picture();
         StorePixmap(picture.isNull() ? PlaceholderPixmap() : picture, folder, name);
         hashes[name][locale] = {shown->DeclaredHash(), shown->ComputedHash()};
@@ -248,6 +247,11 @@ void NagTest::run(const QCommandLineParser& parser)
         form->setAttribute(Qt::WA_DeleteOnClose);
         form->show();
     }
+}
+
+void NagTest::setPictureDelay(std::chrono::milliseconds delay)
+{
+    d->pictureDelay = delay;
 }
 
 QList<QCommandLineOption> NagTest::getCLO() const

@@ -3,6 +3,7 @@
 #include "App/Application/Testing/ITest.h"
 #include "App/Application/ostrel_app_export.h"
 
+#include <chrono>
 #include <memory>
 
 namespace Ostrel::App {
@@ -32,6 +33,9 @@ public:
     void initialize(const QCommandLineParser& parser) override;
     void run(const QCommandLineParser& parser) override;
     QList<QCommandLineOption> getCLO() const override;
+
+    /// How long a nag is on screen before its picture is taken (300 ms unless set).
+    void setPictureDelay(std::chrono::milliseconds delay);
 
 private:
     class Impl;

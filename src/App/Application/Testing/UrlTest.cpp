@@ -19,6 +19,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <optional>
 #include <vector>
 
 namespace Ostrel::App {
@@ -78,6 +79,9 @@ public:
     DummytTestLocales locales;
     // The opening timers die with the test.
     QObject timerContext;
+    std::optional<int> ownNextOpenDelay;
+
+    int& nextDelay() { return ownNextOpenDelay ? *ownNextOpenDelay : nextOpenDelay(); }
 
     std::string moduleName() const
     {
@@ -151,9 +155,9 @@ void UrlTest::Impl::testUrls(const QString& path, const std::list<std::string>& 
 void UrlTest::Impl::openRecords(const std::vector<UrlRecord>& records, int delay)
 {
     for (const UrlRecord& record : records) {
-        QTimer::singleShot(nextOpenDelay(), &timerContext,
+        QTimer::singleShot(nextDelay(), &timerContext,
                            [this, record]() { linksManager->OpenUrl(Util::Utf8ToQString(record.url)); });
-        nextOpenDelay() += delay;
+        nextDelay() += delay;
     }
 }
 
@@ -201,6 +205,11 @@ QString UrlTest::dumpFilePath() const
 {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + QLatin1Char('/') +
            Util::Utf8ToQString(d->moduleName()) + QStringLiteral("-url-dump.csv");
+}
+
+void UrlTest::setFirstOpenDelay(std::chrono::milliseconds delay)
+{
+    d->ownNextOpenDelay = static_cast<int>(delay.count());
 }
 
 } // namespace Ostrel::App

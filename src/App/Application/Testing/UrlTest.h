@@ -3,6 +3,7 @@
 #include "App/Application/Testing/ITest.h"
 #include "App/Application/ostrel_app_export.h"
 
+#include <chrono>
 #include <list>
 #include <memory>
 #include <string>
@@ -35,6 +36,10 @@ public:
 
     /// Where the dump goes.
     QString dumpFilePath() const;
+
+    /// Opens this test's URLs on a schedule of its own, the first one `delay` after the walk,
+    /// instead of on the schedule the process shares, which starts ten seconds after the first walk.
+    void setFirstOpenDelay(std::chrono::milliseconds delay);
 
 private:
     class Impl;

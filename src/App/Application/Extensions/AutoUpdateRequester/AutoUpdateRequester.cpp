@@ -10,7 +10,6 @@
 namespace Ostrel::App {
 
 namespace {
-constexpr int kRequestDelayMs = 5000;
 constexpr bool kAutoUpdateDefault = true;
 } // namespace
 
@@ -26,6 +25,7 @@ public:
     Core::NotNull<std::shared_ptr<ICustomizationManager>> customizationManager;
     Core::NotNull<std::shared_ptr<IProductSettingsManager>> productSettingsManager;
     std::function<void()> autoUpdateRequestCallback;
+    std::chrono::milliseconds requestDelay{5000};
     // The context of the pending timers: they die with it.
     QObject timerContext;
 };
@@ -43,7 +43,7 @@ void AutoUpdateRequester::onStart()
     if (!d->productSettingsManager->GetBool("autoUpdate", kAutoUpdateDefault))
         return;
     Impl* impl = d.get();
-    QTimer::singleShot(kRequestDelayMs, &d->timerContext, [impl]() {
+    QTimer::singleShot(d->requestDelay, &d->timerContext, [impl]() {
         // A copy, so that a callback may replace itself.
         const std::function<void()> callback = impl->autoUpdateRequestCallback;
         if (callback)
@@ -54,6 +54,11 @@ void AutoUpdateRequester::onStart()
 void AutoUpdateRequester::setAutoUpdateRequestCallback(const std::function<void()>& callback)
 {
     d->autoUpdateRequestCallback = callback;
+}
+
+void AutoUpdateRequester::setRequestDelay(std::chrono::milliseconds delay)
+{
+    d->requestDelay = delay;
 }
 
 } // namespace Ostrel::App

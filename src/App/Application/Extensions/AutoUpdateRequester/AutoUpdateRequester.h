@@ -3,6 +3,7 @@
 #include "App/Application/Extensions/Extension.h"
 #include "App/Application/ostrel_app_export.h"
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -24,6 +25,8 @@ public:
     void onStart() override;
     /// Read when the delay ends, so it may be set after onStart.
     void setAutoUpdateRequestCallback(const std::function<void()>& callback);
+    /// The delay of the requests that onStart schedules from now on (5 s unless set).
+    void setRequestDelay(std::chrono::milliseconds delay);
 
 private:
     class Impl;

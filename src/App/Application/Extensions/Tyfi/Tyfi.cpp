@@ -1,6 +1,5 @@
 #include "App/Application/Extensions/Tyfi/Tyfi.h"
 
-#include "App/Application/Extensions/Tyfi/OpenWindowWaiter.h"
 #include "Events/NotNull.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IGateway.h"
@@ -91,6 +90,7 @@ public:
     std::shared_ptr<ExternalStimulus::IGateway> gateway;
     std::unique_ptr<OpenWindowWaiter> waiter;
     std::function<bool()> customNeedOpenChecker;
+    WindowWaitTimings waitTimings;
     // Handlers that may run after this object is gone (a queued Finished, a gateway that holds
     // actions back) check it first.
     std::shared_ptr<bool> aliveToken = std::make_shared<bool>(true);
@@ -113,7 +113,7 @@ void Tyfi::onStart()
 {
     if (!d->needOpen())
         return;
-    d->waiter = std::make_unique<OpenWindowWaiter>();
+    d->waiter = std::make_unique<OpenWindowWaiter>(d->waitTimings);
     Impl* impl = d.get();
     const OpenWindowWaiter* waiter = d->waiter.get();
     const std::weak_ptr<bool> alive = d->aliveToken;
@@ -130,6 +130,11 @@ void Tyfi::onStart()
 void Tyfi::setCustomNeedOpenChecker(const std::function<bool()>& checker)
 {
     d->customNeedOpenChecker = checker;
+}
+
+void Tyfi::setWaitTimings(const WindowWaitTimings& timings)
+{
+    d->waitTimings = timings;
 }
 
 } // namespace Ostrel::App

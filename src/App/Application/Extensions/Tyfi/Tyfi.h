@@ -1,6 +1,7 @@
 #pragma once
 
 #include "App/Application/Extensions/Extension.h"
+#include "App/Application/Extensions/Tyfi/OpenWindowWaiter.h"
 #include "App/Application/ostrel_app_export.h"
 
 #include <functional>
@@ -31,13 +32,16 @@ public:
          const std::shared_ptr<IProductSettingsManager>& productSettingsManager,
          const std::shared_ptr<ILaunchTypeProcessor>& launchTypeProcessor,
          const std::shared_ptr<ExternalStimulus::IGateway>& gateway);
-    /// Stops a wait still running, blocking for at most one pause.
+    /// Stops a wait still running without sitting out its pause.
     ~Tyfi() override;
 
     void onStart() override;
     /// Decides instead of the built-in rule whether the page is wanted; asked before the wait and
     /// again before the page opens. An empty function restores the rule.
     void setCustomNeedOpenChecker(const std::function<bool()>& checker);
+    /// The attempts and the pause of the waits that onStart begins from now on (40 x 300 ms
+    /// unless set).
+    void setWaitTimings(const WindowWaitTimings& timings);
 
 private:
     class Impl;
