@@ -35,6 +35,9 @@ using namespace Ostrel::App;
 
 namespace {
 
+// Long enough for a primary started a moment earlier to come to listening.
+constexpr int HandOffTimeoutMs = 5000;
+
 QCommandLineOption openNagOption()
 {
     return {QStringLiteral("open-nag"),
@@ -44,7 +47,8 @@ QCommandLineOption openNagOption()
 QCommandLineOption dimmingOption()
 {
     return {QStringLiteral("nag-dimming"),
-            QStringLiteral("Dim the window behind nags with NAME: color, shadow or gif."), QStringLiteral("NAME")};
+            QStringLiteral("Dim the window behind nags with NAME: color, shadow or gif."),
+            QStringLiteral("NAME")};
 }
 QCommandLineOption notificationOption()
 {
@@ -53,7 +57,8 @@ QCommandLineOption notificationOption()
 QCommandLineOption startNagDelayOption()
 {
     return {QStringLiteral("start-nag-delay"),
-            QStringLiteral("Show the nag of the start MS milliseconds after the start (800)."), QStringLiteral("MS")};
+            QStringLiteral("Show the nag of the start MS milliseconds after the start (800)."),
+            QStringLiteral("MS")};
 }
 QCommandLineOption noStartNagOption()
 {
@@ -64,10 +69,7 @@ QCommandLineOption noStartNagOption()
 class HostNagsSettings : public WebConfig::DefaultNagsSettings
 {
 public:
-    explicit HostNagsSettings(QString dimming)
-        : m_dimming(std::move(dimming))
-    {
-    }
+    explicit HostNagsSettings(QString dimming) : m_dimming(std::move(dimming)) {}
     std::string nagDimmingName() const override
     {
         return m_dimming.isEmpty() ? DefaultNagsSettings::nagDimmingName() : Util::QStringToUtf8(m_dimming);
@@ -114,9 +116,11 @@ public:
         // The actions hold the opener weakly; the tracking decorator keeps it from now on.
         linksOpener = NagScreen::fromLinksOpener(links);
         manager->SetActionStrategy(std::make_shared<NagScreen::DefaultActions>(
-            links, linksOpener, application->GetCustomizationManager(), application->get<IInternetConnectionChecker>(),
-            application->get<Networking::IHttpClient>(), application->GetMailSettingsManager()));
-        NagScreen::setupNagScreenEventHandler(*application, Tracking::ApplicationTrackerFactory::getApplicationTracker());
+            links, linksOpener, application->GetCustomizationManager(),
+            application->get<IInternetConnectionChecker>(), application->get<Networking::IHttpClient>(),
+            application->GetMailSettingsManager()));
+        NagScreen::setupNagScreenEventHandler(*application,
+                                              Tracking::ApplicationTrackerFactory::getApplicationTracker());
     }
 };
 
@@ -129,17 +133,22 @@ void NagWiring::addOptions(QCommandLineParser& parser)
     parser.addOption(startNagDelayOption());
 }
 
-bool NagWiring::handOffToRunningInstance(const QCommandLineParser& parser, const QString& product)
+bool NagWiring::handOffToRunningInstance(const QCommandLineParser& parser, LocalSocketProtocol& protocol,
+                                         const QString& product)
 {
-    if (!parser.isSet(openNagOption()))
+    if (protocol.Listen() || !protocol.IsSecondary() || !parser.isSet(openNagOption()))
         return false;
-    const bool handedOff = LocalSocketProtocol::SendOpenNag(product, parser.value(openNagOption()));
-    if (handedOff)
+    if (LocalSocketProtocol::SendOpenNag(product, parser.value(openNagOption()), HandOffTimeoutMs)) {
         LOG(INFO) << "The running instance shows the requested nag";
-    return handedOff;
+        return true;
+    }
+    LOG(WARNING)
+        << "No running instance took the nag request in time; this instance goes on without hand-off";
+    return false;
 }
 
-NagWiring::NagWiring(Application& application, const QCommandLineParser& parser, const QString& product,
+NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
+                     const std::shared_ptr<LocalSocketProtocol>& protocol,
                      const std::shared_ptr<ProductSettingsManager>& settings)
     : d(std::make_unique<Impl>())
 {
@@ -159,18 +168,17 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     else
         d->manager->SetShowStrategy(std::make_shared<NagScreen::DialogStrategy>(nagsSettings));
 
-    // The first instance listens; a request that no instance took is this instance's own.
-    d->protocol = std::make_shared<LocalSocketProtocol>(product);
-    if (d->protocol->Listen())
-        application.set<IPCBaseProtocol>(d->protocol);
+    // Listening or not, requests (this instance's own among them) take the protocol's road.
+    d->protocol = protocol;
+    application.set<IPCBaseProtocol>(d->protocol);
     d->openNagAtStart = parser.value(openNagOption());
     d->startNag = !parser.isSet(noStartNagOption());
     bool valid = false;
     const int delay = parser.value(startNagDelayOption()).toInt(&valid);
     if (valid && delay >= 0)
         d->startNagDelayMs = delay;
-    d->manager->SetWebNagUrlGenerator(
-        std::make_shared<NagScreen::WebNagUrlGenerator>(application, std::make_shared<NagScreen::NagIdLockStorage>(settings)));
+    d->manager->SetWebNagUrlGenerator(std::make_shared<NagScreen::WebNagUrlGenerator>(
+        application, std::make_shared<NagScreen::NagIdLockStorage>(settings)));
     application.SetNagScreenManager(d->manager);
     application.GetLinksManagerSetter()->RegisterEventHandler(d.get());
     d->onSet();
@@ -183,7 +191,7 @@ void NagWiring::showAfterStart()
     // After the main window has painted, so that the nag has something to sit on.
     QTimer::singleShot(d->startNagDelayMs, d->application, [this]() {
         // A request on this instance's own command line takes the same road as one from another.
-        if (!d->openNagAtStart.isEmpty() && d->protocol->IsListening())
+        if (!d->openNagAtStart.isEmpty())
             Q_EMIT d->protocol->OnOpenNagReceived(d->openNagAtStart);
         else if (d->startNag)
             d->manager->ShowNag(NagScreen::AppAction::AppStart());

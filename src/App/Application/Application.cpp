@@ -2,6 +2,7 @@
 
 #include "App/Application/ApplicationImpl_p.h"
 #include "App/Application/DirectCallGateway.h"
+#include "App/Application/NagScreen/NagRequestPolicy.h"
 #include "App/Application/ProductConstants.h"
 #include "App/Application/SplashController_p.h"
 #include "App/Application/UserActionLog_p.h"
@@ -35,6 +36,7 @@
 #include <QElapsedTimer>
 #include <QMetaEnum>
 #include <QThread>
+#include <QTimer>
 
 #include <glog/logging.h>
 
@@ -66,8 +68,7 @@ Application::Application(int& argc, char** argv, const std::shared_ptr<ILifetime
 
 Application::Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager,
                          bool mutexDisabled)
-    : QApplication(argc, argv)
-    , d(std::make_unique<Impl>(*this, lifetimeManager, mutexDisabled))
+    : QApplication(argc, argv), d(std::make_unique<Impl>(*this, lifetimeManager, mutexDisabled))
 {
     set<ILifetimeManager>(lifetimeManager);
     set<ExternalStimulus::IGateway>(std::make_shared<ExternalStimulus::DirectCallGateway>());
@@ -178,9 +179,9 @@ std::shared_ptr<ILinksManager> Application::GetLinksManager()
     LOG(ERROR) << "### Deprecated. SetLinksManager before use GetLinksManager! ###";
     LOG(ERROR) << "###############################################################";
     const auto manager = std::make_shared<LinksManager>(
-        get<ICustomizationManager>(), get<IHardwareInfo>(), get<ILookAndFeelManager>(), get<IMailSettingsManager>(),
-        get<IProductSettingsManager>(), get<IUserSettingsManager>(), get<ILaunchTypeProcessor>(),
-        get<IPartnerTracking>(), get<IInstallerSettingsManager>());
+        get<ICustomizationManager>(), get<IHardwareInfo>(), get<ILookAndFeelManager>(),
+        get<IMailSettingsManager>(), get<IProductSettingsManager>(), get<IUserSettingsManager>(),
+        get<ILaunchTypeProcessor>(), get<IPartnerTracking>(), get<IInstallerSettingsManager>());
     SetLinksManager(manager);
     return manager;
 }
@@ -194,8 +195,8 @@ int Application::GetDaysPassed() const
 {
     const QDateTime now = QDateTime::currentDateTime();
     const auto settings = get<IProductSettingsManager>();
-    const uint firstStart = settings ? settings->GetUInt(ProductConstants::DateOfFirstStart, now.toTime_t())
-                                     : now.toTime_t();
+    const uint firstStart =
+        settings ? settings->GetUInt(ProductConstants::DateOfFirstStart, now.toTime_t()) : now.toTime_t();
     return static_cast<int>(QDateTime::fromTime_t(firstStart).daysTo(now));
 }
 
@@ -225,13 +226,14 @@ bool Application::notify(QObject* receiver, QEvent* event)
             LogUserAction(receiver, event);
         return QApplication::notify(receiver, event);
     } catch (const std::exception& exception) {
-        const std::string receiverClass = receiver ? boost::core::demangle(typeid(*receiver).name()) : "<NULL>";
+        const std::string receiverClass =
+            receiver ? boost::core::demangle(typeid(*receiver).name()) : "<NULL>";
         const std::string eventClass = boost::core::demangle(typeid(*event).name());
         const char* typeName = QMetaEnum::fromType<QEvent::Type>().valueToKey(event->type());
         LOG(ERROR) << "Exception has been caught in event processing\n"
                    << "\tReceiver: " << receiverClass << "\n"
-                   << "\tEvent class: " << eventClass << ". Event type: QEvent::" << (typeName ? typeName : "")
-                   << "\n"
+                   << "\tEvent class: " << eventClass
+                   << ". Event type: QEvent::" << (typeName ? typeName : "") << "\n"
                    << "\tException details: " << boost::diagnostic_information(exception, true);
         Core::TrackCurrentException();
         throw;
@@ -305,7 +307,8 @@ void Application::Impl::onComponentChanged(const std::shared_ptr<ILaunchTypeProc
         return;
     }
 
-    const std::string overrideKey = std::string(ProductConstants::PartnerName) + ProductConstants::OverrideSuffix;
+    const std::string overrideKey =
+        std::string(ProductConstants::PartnerName) + ProductConstants::OverrideSuffix;
     std::string partner = customization->GetPartnerName();
     if (settings->Has(overrideKey)) {
         const std::string overridden = settings->GetString(overrideKey, std::string());
@@ -344,9 +347,39 @@ void Application::Impl::openNag(const QString& url)
     const auto manager = application.get<NagScreen::IManager>();
     if (!manager)
         return;
+    // A burst of requests must not stack modal loops: while one requested nag shows, the latest
+    // request waits for it.
+    if (requestedNagOnScreen) {
+        waitingNagUrl = url;
+        return;
+    }
+    showRequestedNag(*manager, url);
+}
+
+void Application::Impl::showRequestedNag(NagScreen::IManager& manager, const QString& url)
+{
     const QUrl nagUrl(QUrl::fromPercentEncoding(url.toUtf8()));
-    manager->AddNag(manager->GetAppMode(), QStringLiteral("open_nag"), nagUrl, std::string(), std::string(), 0);
-    manager->ShowNag(QStringLiteral("open_nag"));
+    const auto policy = NagScreen::NagRequestPolicy::ForProduct(
+        application.get<ICustomizationManager>().get(), manager.GetNagConfig().get());
+    const QString refusal = policy.Refusal(nagUrl);
+    if (!refusal.isEmpty()) {
+        LOG(WARNING) << "Nag request refused, " << Util::QStringToUtf8(refusal) << ": \""
+                     << Util::QStringToUtf8(url.left(2048)) << "\"";
+        return;
+    }
+    struct OnScreen
+    {
+        bool& flag;
+        ~OnScreen() { flag = false; }
+    } onScreen{requestedNagOnScreen};
+    requestedNagOnScreen = true;
+    manager.AddNag(manager.GetAppMode(), QStringLiteral("open_nag"), nagUrl, std::string(), std::string(), 0);
+    manager.ShowNag(QStringLiteral("open_nag"));
+    if (waitingNagUrl) {
+        // From the event loop, once this nag's loop has unwound.
+        QTimer::singleShot(0, &requestContext, [this, next = *waitingNagUrl]() { openNag(next); });
+        waitingNagUrl.reset();
+    }
 }
 
 } // namespace Ostrel::App
