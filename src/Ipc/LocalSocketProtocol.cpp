@@ -133,6 +133,7 @@ bool LocalSocketProtocol::Listen()
             socket->flush();
             socket->disconnectFromServer();
             // Out of the socket's handler before anybody reacts: a receiver may run a modal nag.
+            LOG(INFO) << "Request of another process received";
             const QString url = messages.first().text;
             QMetaObject::invokeMethod(
                 this, [this, url]() { Q_EMIT OnOpenNagReceived(url); }, Qt::QueuedConnection);
@@ -141,8 +142,10 @@ bool LocalSocketProtocol::Listen()
         if (socket->bytesAvailable() > 0)
             QMetaObject::invokeMethod(socket, "readyRead", Qt::QueuedConnection);
     });
-    if (d->listener->listen(d->name, &why))
+    if (d->listener->listen(d->name, &why)) {
+        LOG(INFO) << "Listening for requests of other processes at " << utf8(d->name);
         return true;
+    }
     LOG(WARNING) << "Cannot listen for requests of other processes, the product runs without hand-off: "
                  << utf8(why);
     d->listener.reset();
