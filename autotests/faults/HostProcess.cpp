@@ -18,6 +18,12 @@ QString HostProcess::OwnNag()
     return QStringLiteral("qrc:/NagScreen/app_start/main.qml");
 }
 
+bool HostProcess::MakeRuntimeFolder(const QString& path)
+{
+    return QDir().mkpath(path) &&
+           QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
 HostProcess::HostProcess(const QString& root, const QString& runtime) : m_root(root), m_runtime(runtime)
 {
     QDir().mkpath(m_root);

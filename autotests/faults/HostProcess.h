@@ -14,6 +14,8 @@ public:
     static QString Product();
     /// An address that another process may ask for: one of the host's own nags.
     static QString OwnNag();
+    /// Makes `path` a runtime folder as a session has one: the user's alone.
+    static bool MakeRuntimeFolder(const QString& path);
 
     HostProcess(const QString& root, const QString& runtime);
     ~HostProcess();

@@ -34,8 +34,7 @@ private Q_SLOTS:
     {
         QTemporaryDir root;
         const QString runtime = root.filePath(QStringLiteral("runtime"));
-        QVERIFY(QDir().mkdir(runtime));
-        QVERIFY(QFile::setPermissions(runtime, UserOnly));
+        QVERIFY(HostProcess::MakeRuntimeFolder(runtime));
         HostProcess first(root.filePath(QStringLiteral("first")), runtime);
         HostProcess second(root.filePath(QStringLiteral("second")), runtime);
         const QStringList arguments{QStringLiteral("--no-start-nag"),
@@ -68,8 +67,7 @@ private Q_SLOTS:
         QFETCH(QString, squatter);
         QTemporaryDir root;
         const QString runtime = root.filePath(QStringLiteral("runtime"));
-        QVERIFY(QDir().mkdir(runtime));
-        QVERIFY(QFile::setPermissions(runtime, UserOnly));
+        QVERIFY(HostProcess::MakeRuntimeFolder(runtime));
         const QByteArray saved = qgetenv("XDG_RUNTIME_DIR");
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
         const QString path = LocalSocketProtocol::ServerNameFor(HostProcess::Product());

@@ -34,12 +34,18 @@ QString uniqueProduct(const char* test)
         .arg(QCoreApplication::applicationPid());
 }
 
-// A client that connects and then says nothing.
-std::unique_ptr<QLocalSocket> stalledClient(const QString& name)
+std::unique_ptr<QLocalSocket> connectedClient(const QString& name)
 {
     auto client = std::make_unique<QLocalSocket>();
     client->connectToServer(name);
     client->waitForConnected(2000);
+    return client;
+}
+
+// A client that connects and then says nothing.
+std::unique_ptr<QLocalSocket> stalledClient(const QString& name)
+{
+    auto client = connectedClient(name);
     client->write(QByteArray(2, '\0')); // half a length
     client->flush();
     return client;
@@ -126,12 +132,11 @@ private Q_SLOTS:
         QVERIFY(server.Listen());
         QSignalSpy received(&server, &IPCBaseProtocol::OnOpenNagReceived);
         Ostrel::Test::LogCapture log;
-        QLocalSocket client;
-        client.connectToServer(server.ServerName());
-        QVERIFY(client.waitForConnected(2000));
-        client.write(header(IpcFrameReader::MaxPayload * 4) + QByteArray(64, 'x'));
-        client.flush();
-        QTRY_COMPARE(client.state(), QLocalSocket::UnconnectedState);
+        const auto client = connectedClient(server.ServerName());
+        QCOMPARE(client->state(), QLocalSocket::ConnectedState);
+        client->write(header(IpcFrameReader::MaxPayload * 4) + QByteArray(64, 'x'));
+        client->flush();
+        QTRY_COMPARE(client->state(), QLocalSocket::UnconnectedState);
         QCOMPARE(log.matching("Inter-process message dropped").size(), std::size_t(1));
         QCOMPARE(received.size(), 0);
         QProcess sender;
@@ -146,15 +151,14 @@ private Q_SLOTS:
         QVERIFY(server.Listen());
         QSignalSpy received(&server, &IPCBaseProtocol::OnOpenNagReceived);
         Ostrel::Test::LogCapture log;
-        QLocalSocket client;
-        client.connectToServer(server.ServerName());
-        QVERIFY(client.waitForConnected(2000));
+        const auto client = connectedClient(server.ServerName());
+        QCOMPARE(client->state(), QLocalSocket::ConnectedState);
         QByteArray burst;
         for (int i = 0; i < 2000; ++i)
             burst += IpcFrameReader::Encode(IpcFrameReader::Type::OpenNag, QStringLiteral("n%1").arg(i));
-        client.write(burst);
+        client->write(burst);
         QTRY_COMPARE(received.size(), 1);
-        QTRY_COMPARE(client.state(), QLocalSocket::UnconnectedState);
+        QTRY_COMPARE(client->state(), QLocalSocket::UnconnectedState);
         QCOMPARE(received.at(0).at(0).toString(), QStringLiteral("n0"));
         QVERIFY(!log.matching("a connection carries one request").empty());
         QCOMPARE(received.size(), 1);
