@@ -103,7 +103,7 @@ private Q_SLOTS:
                       QStringLiteral("--open-nag=") + HostProcess::OwnNag()});
         QVERIFY2(second.waitForExit(StartMs), qPrintable(second.log()));
         QCOMPARE(second.exitCode(), 0);
-        // It went on by itself and showed its own request.
+        // It went on by itself instead of handing the request to whatever squats there.
         QVERIFY2(
             second.log().contains(squatter == QLatin1String("open folder")
                                       ? QStringLiteral("Requests of other processes are off")

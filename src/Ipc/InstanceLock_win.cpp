@@ -1,5 +1,7 @@
 #include "Ipc/InstanceLock_p.h"
 
+#include "Ipc/LocalEndpoint_p.h"
+
 #include <windows.h>
 
 namespace Ostrel::App {
@@ -12,11 +14,11 @@ public:
     bool held = false;
 };
 
-// "Local\" is the session's namespace; the key carries the user's SID, so the lock is one per
-// session and user.
+// "Local\" is the session's namespace, and the name carries the session and the user's SID: one
+// lock per session and user.
 InstanceLock::InstanceLock(const QString&, const QString& key) : d(std::make_unique<Impl>())
 {
-    d->name = QStringLiteral("Local\\") + key;
+    d->name = QStringLiteral("Local\\") + key + QLatin1Char('-') + LocalEndpoint::UserKey();
 }
 
 InstanceLock::~InstanceLock()

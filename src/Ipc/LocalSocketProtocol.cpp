@@ -39,6 +39,8 @@ class LocalSocketProtocol::Impl
 public:
     QString product;
     QString folder;
+    // Why there is no folder of the user's own, if there is none.
+    QString folderProblem;
     QString name;
     std::unique_ptr<InstanceLock> lock;
     std::unique_ptr<LocalListener> listener;
@@ -54,8 +56,7 @@ LocalSocketProtocol::LocalSocketProtocol(const QString& product, QObject* parent
     : IPCBaseProtocol(parent), d(std::make_unique<Impl>())
 {
     d->product = product;
-    QString why;
-    d->folder = LocalEndpoint::PrivateFolder(&why);
+    d->folder = LocalEndpoint::PrivateFolder(&d->folderProblem);
     if (!d->folder.isEmpty())
         d->name = LocalEndpoint::ServerName(d->folder, endpointKey(product));
 }
@@ -76,9 +77,8 @@ bool LocalSocketProtocol::Listen()
     d->decided = true;
     QString why;
     if (d->name.isEmpty()) {
-        LocalEndpoint::PrivateFolder(&why);
         LOG(WARNING) << "Requests of other processes are off, the product runs without hand-off: "
-                     << utf8(why);
+                     << utf8(d->folderProblem);
         return false;
     }
     d->lock = std::make_unique<InstanceLock>(d->folder, endpointKey(d->product));
