@@ -47,8 +47,7 @@ QCommandLineOption openNagOption()
 QCommandLineOption dimmingOption()
 {
     return {QStringLiteral("nag-dimming"),
-            QStringLiteral("Dim the window behind nags with NAME: color, shadow or gif."),
-            QStringLiteral("NAME")};
+            QStringLiteral("Dim the window behind nags with NAME: color, shadow or gif."), QStringLiteral("NAME")};
 }
 QCommandLineOption notificationOption()
 {
@@ -57,8 +56,7 @@ QCommandLineOption notificationOption()
 QCommandLineOption startNagDelayOption()
 {
     return {QStringLiteral("start-nag-delay"),
-            QStringLiteral("Show the nag of the start MS milliseconds after the start (800)."),
-            QStringLiteral("MS")};
+            QStringLiteral("Show the nag of the start MS milliseconds after the start (800)."), QStringLiteral("MS")};
 }
 QCommandLineOption noStartNagOption()
 {
@@ -69,7 +67,10 @@ QCommandLineOption noStartNagOption()
 class HostNagsSettings : public WebConfig::DefaultNagsSettings
 {
 public:
-    explicit HostNagsSettings(QString dimming) : m_dimming(std::move(dimming)) {}
+    explicit HostNagsSettings(QString dimming)
+        : m_dimming(std::move(dimming))
+    {
+    }
     std::string nagDimmingName() const override
     {
         return m_dimming.isEmpty() ? DefaultNagsSettings::nagDimmingName() : Util::QStringToUtf8(m_dimming);
@@ -116,11 +117,9 @@ public:
         // The actions hold the opener weakly; the tracking decorator keeps it from now on.
         linksOpener = NagScreen::fromLinksOpener(links);
         manager->SetActionStrategy(std::make_shared<NagScreen::DefaultActions>(
-            links, linksOpener, application->GetCustomizationManager(),
-            application->get<IInternetConnectionChecker>(), application->get<Networking::IHttpClient>(),
-            application->GetMailSettingsManager()));
-        NagScreen::setupNagScreenEventHandler(*application,
-                                              Tracking::ApplicationTrackerFactory::getApplicationTracker());
+            links, linksOpener, application->GetCustomizationManager(), application->get<IInternetConnectionChecker>(),
+            application->get<Networking::IHttpClient>(), application->GetMailSettingsManager()));
+        NagScreen::setupNagScreenEventHandler(*application, Tracking::ApplicationTrackerFactory::getApplicationTracker());
     }
 };
 
@@ -177,8 +176,8 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     const int delay = parser.value(startNagDelayOption()).toInt(&valid);
     if (valid && delay >= 0)
         d->startNagDelayMs = delay;
-    d->manager->SetWebNagUrlGenerator(std::make_shared<NagScreen::WebNagUrlGenerator>(
-        application, std::make_shared<NagScreen::NagIdLockStorage>(settings)));
+    d->manager->SetWebNagUrlGenerator(
+        std::make_shared<NagScreen::WebNagUrlGenerator>(application, std::make_shared<NagScreen::NagIdLockStorage>(settings)));
     application.SetNagScreenManager(d->manager);
     application.GetLinksManagerSetter()->RegisterEventHandler(d.get());
     d->onSet();

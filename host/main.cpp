@@ -55,8 +55,7 @@ private:
     static void send(const std::string& event)
     {
         if (const auto tracker = Tracking::ApplicationTrackerFactory::getApplicationTracker())
-            tracker->sendEvent(event,
-                               {{"VERSION", Util::QStringToUtf8(QCoreApplication::applicationVersion())}});
+            tracker->sendEvent(event, {{"VERSION", Util::QStringToUtf8(QCoreApplication::applicationVersion())}});
     }
 };
 
@@ -64,13 +63,11 @@ private:
 // also reach standard error. Until this runs, everything goes to standard error.
 QString startLogFile(const CustomizationManager& customization)
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                           QLatin1Char('/') + QString::fromStdString(customization.GetOrganizationName()) +
-                           QLatin1Char('/') + QString::fromStdString(customization.GetApplicationName()) +
-                           QStringLiteral("/logs");
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1Char('/') +
+                           QString::fromStdString(customization.GetOrganizationName()) + QLatin1Char('/') +
+                           QString::fromStdString(customization.GetApplicationName()) + QStringLiteral("/logs");
     if (!QDir().mkpath(folder)) {
-        LOG(WARNING) << "Cannot create the log folder " << Util::QStringToUtf8(folder)
-                     << ", logging to standard error";
+        LOG(WARNING) << "Cannot create the log folder " << Util::QStringToUtf8(folder) << ", logging to standard error";
         FLAGS_logtostderr = true;
         return QStringLiteral("<standard error>");
     }
@@ -102,8 +99,7 @@ int main(int argc, char** argv)
     Application app(argc, argv, lifetime);
     Util::InstallQtMessageRouting();
     // Without a display there is no OpenGL for the nags' Qt Quick scenes: draw them in software.
-    if (QGuiApplication::platformName() == QLatin1String("offscreen") &&
-        !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+    if (QGuiApplication::platformName() == QLatin1String("offscreen") && !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     // The shell's test options act from here on (the SSL choice before any URL exists).
     const auto testing = TestingWiring::create(lifetime);
@@ -117,11 +113,10 @@ int main(int argc, char** argv)
                                        QStringLiteral("Quit by itself MS milliseconds after the start."),
                                        QStringLiteral("MS"));
     parser.addOption(quitAfter);
-    const QCommandLineOption holdStart(
-        QStringLiteral("hold-start"),
-        QStringLiteral("Wait MS milliseconds before the start, as a slow start-up "
-                       "would; the splash stays up meanwhile."),
-        QStringLiteral("MS"));
+    const QCommandLineOption holdStart(QStringLiteral("hold-start"),
+                                       QStringLiteral("Wait MS milliseconds before the start, as a slow start-up "
+                                                      "would; the splash stays up meanwhile."),
+                                       QStringLiteral("MS"));
     parser.addOption(holdStart);
     NagWiring::addOptions(parser);
     // The shell's own options (test options) are read by the shell; unknown ones are not an error here.
@@ -137,8 +132,7 @@ int main(int argc, char** argv)
         *value = parser.value(option).toInt(&valid);
         if (valid && *value >= 0)
             return true;
-        std::fprintf(stderr, "ostrel-host: --%s takes a number of milliseconds\n",
-                     qPrintable(option.names().first()));
+        std::fprintf(stderr, "ostrel-host: --%s takes a number of milliseconds\n", qPrintable(option.names().first()));
         return false;
     };
     int quitAfterMs = -1;
@@ -157,8 +151,7 @@ int main(int argc, char** argv)
     if (NagWiring::handOffToRunningInstance(parser, *protocol, product))
         return 0;
 
-    const auto splash =
-        std::make_shared<HostSplash>(QString::fromStdString(customization->GetPresentableName()));
+    const auto splash = std::make_shared<HostSplash>(QString::fromStdString(customization->GetPresentableName()));
     splash->show();
     app.SetSplash(splash);
 
@@ -175,8 +168,8 @@ int main(int argc, char** argv)
     app.set<IUserSettingsManager>(std::make_shared<UserSettingsManager>());
     app.set<IMailSettingsManager>(std::make_shared<MailSettingsManager>());
     app.set<IHardwareInfo>(std::make_shared<HardwareInfo>());
-    app.SetLaunchTypeProcessor(std::make_shared<LaunchTypeProcessor>(productSettings, installerSettings,
-                                                                     QCoreApplication::arguments()));
+    app.SetLaunchTypeProcessor(
+        std::make_shared<LaunchTypeProcessor>(productSettings, installerSettings, QCoreApplication::arguments()));
 
     // 4. Nags and test options join here as the product adds them.
     NagWiring nags(app, parser, protocol, productSettings);
@@ -191,9 +184,8 @@ int main(int argc, char** argv)
     // browser through the URL handler that the browser installs for the process.
     PreferredBrowser preferredBrowser(app.GetLookAndFeel(), productSettings, installerSettings);
     app.SetLinksManager(std::make_shared<LinksManager>(
-        customization, app.get<IHardwareInfo>(), app.GetLookAndFeel(), app.GetMailSettingsManager(),
-        productSettings, app.get<IUserSettingsManager>(), app.GetLaunchTypeProcessor(), nullptr,
-        installerSettings));
+        customization, app.get<IHardwareInfo>(), app.GetLookAndFeel(), app.GetMailSettingsManager(), productSettings,
+        app.get<IUserSettingsManager>(), app.GetLaunchTypeProcessor(), nullptr, installerSettings));
     // The start-up extensions run once, right after the start, and live for the whole run.
     ExtensionsWiring extensions(app, *lifetime);
     testing->connect(app);

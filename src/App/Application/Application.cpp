@@ -68,7 +68,8 @@ Application::Application(int& argc, char** argv, const std::shared_ptr<ILifetime
 
 Application::Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager,
                          bool mutexDisabled)
-    : QApplication(argc, argv), d(std::make_unique<Impl>(*this, lifetimeManager, mutexDisabled))
+    : QApplication(argc, argv)
+    , d(std::make_unique<Impl>(*this, lifetimeManager, mutexDisabled))
 {
     set<ILifetimeManager>(lifetimeManager);
     set<ExternalStimulus::IGateway>(std::make_shared<ExternalStimulus::DirectCallGateway>());
@@ -179,9 +180,9 @@ std::shared_ptr<ILinksManager> Application::GetLinksManager()
     LOG(ERROR) << "### Deprecated. SetLinksManager before use GetLinksManager! ###";
     LOG(ERROR) << "###############################################################";
     const auto manager = std::make_shared<LinksManager>(
-        get<ICustomizationManager>(), get<IHardwareInfo>(), get<ILookAndFeelManager>(),
-        get<IMailSettingsManager>(), get<IProductSettingsManager>(), get<IUserSettingsManager>(),
-        get<ILaunchTypeProcessor>(), get<IPartnerTracking>(), get<IInstallerSettingsManager>());
+        get<ICustomizationManager>(), get<IHardwareInfo>(), get<ILookAndFeelManager>(), get<IMailSettingsManager>(),
+        get<IProductSettingsManager>(), get<IUserSettingsManager>(), get<ILaunchTypeProcessor>(),
+        get<IPartnerTracking>(), get<IInstallerSettingsManager>());
     SetLinksManager(manager);
     return manager;
 }
@@ -195,8 +196,8 @@ int Application::GetDaysPassed() const
 {
     const QDateTime now = QDateTime::currentDateTime();
     const auto settings = get<IProductSettingsManager>();
-    const uint firstStart =
-        settings ? settings->GetUInt(ProductConstants::DateOfFirstStart, now.toTime_t()) : now.toTime_t();
+    const uint firstStart = settings ? settings->GetUInt(ProductConstants::DateOfFirstStart, now.toTime_t())
+                                     : now.toTime_t();
     return static_cast<int>(QDateTime::fromTime_t(firstStart).daysTo(now));
 }
 
@@ -226,14 +227,13 @@ bool Application::notify(QObject* receiver, QEvent* event)
             LogUserAction(receiver, event);
         return QApplication::notify(receiver, event);
     } catch (const std::exception& exception) {
-        const std::string receiverClass =
-            receiver ? boost::core::demangle(typeid(*receiver).name()) : "<NULL>";
+        const std::string receiverClass = receiver ? boost::core::demangle(typeid(*receiver).name()) : "<NULL>";
         const std::string eventClass = boost::core::demangle(typeid(*event).name());
         const char* typeName = QMetaEnum::fromType<QEvent::Type>().valueToKey(event->type());
         LOG(ERROR) << "Exception has been caught in event processing\n"
                    << "\tReceiver: " << receiverClass << "\n"
-                   << "\tEvent class: " << eventClass
-                   << ". Event type: QEvent::" << (typeName ? typeName : "") << "\n"
+                   << "\tEvent class: " << eventClass << ". Event type: QEvent::" << (typeName ? typeName : "")
+                   << "\n"
                    << "\tException details: " << boost::diagnostic_information(exception, true);
         Core::TrackCurrentException();
         throw;
@@ -307,8 +307,7 @@ void Application::Impl::onComponentChanged(const std::shared_ptr<ILaunchTypeProc
         return;
     }
 
-    const std::string overrideKey =
-        std::string(ProductConstants::PartnerName) + ProductConstants::OverrideSuffix;
+    const std::string overrideKey = std::string(ProductConstants::PartnerName) + ProductConstants::OverrideSuffix;
     std::string partner = customization->GetPartnerName();
     if (settings->Has(overrideKey)) {
         const std::string overridden = settings->GetString(overrideKey, std::string());
