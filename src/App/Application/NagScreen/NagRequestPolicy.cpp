@@ -21,18 +21,11 @@ const QString& OpenNagAction()
     return action;
 }
 
-struct HostAndPort
+void addHostOf(QStringList& hosts, const QString& url)
 {
-    QString host;
-    int port = -1;
-};
-
-// "host" or "host:port"; the form of the customization's "Hosts/" values.
-HostAndPort parseAuthority(const QString& authority)
-{
-    QUrl url;
-    url.setAuthority(authority.trimmed(), QUrl::StrictMode);
-    return {url.host(), url.port()};
+    const QString host = QUrl(url, QUrl::TolerantMode).host().toLower();
+    if (!host.isEmpty() && !hosts.contains(host))
+        hosts << host;
 }
 
 // Paths are compared as they would load: "qrc:/a/../b.qml" is "qrc:/b.qml".
@@ -47,7 +40,7 @@ class NagRequestPolicy::Impl
 {
 public:
     std::vector<QUrl> ownSources;
-    std::vector<HostAndPort> hosts;
+    QStringList hosts;
     bool allowHttp = false;
 };
 
@@ -59,11 +52,8 @@ NagRequestPolicy::NagRequestPolicy(const QStringList& ownSources, const QStringL
         if (url.isValid() && url.scheme() == QLatin1String("qrc"))
             d->ownSources.push_back(normalized(url));
     }
-    for (const QString& entry : nagHosts) {
-        HostAndPort host = parseAuthority(entry);
-        if (!host.host.isEmpty())
-            d->hosts.push_back(std::move(host));
-    }
+    for (const QString& host : nagHosts)
+        addHostOf(d->hosts, QStringLiteral("https://") + host);
     d->allowHttp = allowHttp;
 }
 
@@ -93,19 +83,17 @@ QStringList NagRequestPolicy::NagHosts(const ICustomizationManager* customizatio
     for (const auto& [endpoint, defaultHost] : UrlEndpointHosts()) {
         if (endpoint != "messages")
             continue;
+        // The links manager puts a customized host (a port may come with it) behind "https://".
         const std::string custom =
             customization ? customization->GetCustomValue("Hosts/" + endpoint) : std::string();
-        hosts << Util::Utf8ToQString(custom.empty() ? defaultHost : custom);
+        addHostOf(hosts,
+                  QStringLiteral("https://") + Util::Utf8ToQString(custom.empty() ? defaultHost : custom));
     }
-    if (!customization)
-        return hosts;
-    for (const URLKeys key : {NAGS_REQUEST_URL, CUSTOM_WEB_NAG_URL}) {
-        const std::string custom = customization->GetCustomValue("Links/" + UrlKeyNames().at(key));
-        const QUrl url(Util::Utf8ToQString(custom), QUrl::TolerantMode);
-        if (!custom.empty() && !url.host().isEmpty())
-            hosts << (url.port() < 0 ? url.host()
-                                     : url.host() + QLatin1Char(':') + QString::number(url.port()));
-    }
+    const std::string customNag =
+        customization ? customization->GetCustomValue("Links/" + UrlKeyNames().at(CUSTOM_WEB_NAG_URL))
+                      : std::string();
+    if (!customNag.empty())
+        addHostOf(hosts, Util::Utf8ToQString(customNag));
     return hosts;
 }
 
@@ -129,12 +117,9 @@ QString NagRequestPolicy::Refusal(const QUrl& url) const
         return QStringLiteral("the scheme \"%1\" is not allowed").arg(scheme);
     if (!url.userInfo().isEmpty())
         return QStringLiteral("the address carries user information");
-    const int defaultPort = scheme == QLatin1String("https") ? 443 : 80;
-    for (const HostAndPort& allowed : d->hosts) {
-        if (url.host().compare(allowed.host, Qt::CaseInsensitive) == 0 &&
-            url.port(defaultPort) == (allowed.port < 0 ? defaultPort : allowed.port))
-            return {};
-    }
+    // The host decides, as for what nag content may reach: the product's server, whatever the port.
+    if (d->hosts.contains(url.host().toLower()))
+        return {};
     return QStringLiteral("the host \"%1\" is not one of the product's nag servers").arg(url.authority());
 }
 
