@@ -1,6 +1,5 @@
 #include "Ipc/LocalEndpoint_p.h"
 
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QLocalSocket>
 
