@@ -2,7 +2,6 @@
 
 #include <QDeadlineTimer>
 #include <QLocalSocket>
-#include <QThread>
 
 #include <windows.h>
 
