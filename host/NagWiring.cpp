@@ -37,6 +37,9 @@ using namespace Ostrel::App;
 
 namespace {
 
+// Long enough for a primary started a moment earlier to come to listening.
+constexpr int HandOffTimeoutMs = 5000;
+
 QCommandLineOption openNagOption()
 {
     return {QStringLiteral("open-nag"),
@@ -131,17 +134,22 @@ void NagWiring::addOptions(QCommandLineParser& parser)
     parser.addOption(startNagDelayOption());
 }
 
-bool NagWiring::handOffToRunningInstance(const QCommandLineParser& parser, const QString& product)
+bool NagWiring::handOffToRunningInstance(const QCommandLineParser& parser, LocalSocketProtocol& protocol,
+                                         const QString& product)
 {
-    if (!parser.isSet(openNagOption()))
+    if (protocol.Listen() || !protocol.IsSecondary() || !parser.isSet(openNagOption()))
         return false;
-    const bool handedOff = LocalSocketProtocol::SendOpenNag(product, parser.value(openNagOption()));
-    if (handedOff)
+    if (LocalSocketProtocol::SendOpenNag(product, parser.value(openNagOption()), HandOffTimeoutMs)) {
         LOG(INFO) << "The running instance shows the requested nag";
-    return handedOff;
+        return true;
+    }
+    LOG(WARNING)
+        << "No running instance took the nag request in time; this instance goes on without hand-off";
+    return false;
 }
 
-NagWiring::NagWiring(Application& application, const QCommandLineParser& parser, const QString& product,
+NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
+                     const std::shared_ptr<LocalSocketProtocol>& protocol,
                      const std::shared_ptr<ProductSettingsManager>& settings)
     : d(std::make_unique<Impl>())
 {
@@ -164,10 +172,9 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     else
         d->manager->SetShowStrategy(std::make_shared<NagScreen::DialogStrategy>(nagsSettings));
 
-    // The first instance listens; a request that no instance took is this instance's own.
-    d->protocol = std::make_shared<LocalSocketProtocol>(product);
-    if (d->protocol->Listen())
-        application.set<IPCBaseProtocol>(d->protocol);
+    // Listening or not, requests (this instance's own among them) take the protocol's road.
+    d->protocol = protocol;
+    application.set<IPCBaseProtocol>(d->protocol);
     d->openNagAtStart = parser.value(openNagOption());
     d->startNag = !parser.isSet(noStartNagOption());
     bool valid = false;
@@ -188,7 +195,7 @@ void NagWiring::showAfterStart()
     // After the main window has painted, so that the nag has something to sit on.
     QTimer::singleShot(d->startNagDelayMs, d->application, [this]() {
         // A request on this instance's own command line takes the same road as one from another.
-        if (!d->openNagAtStart.isEmpty() && d->protocol->IsListening())
+        if (!d->openNagAtStart.isEmpty())
             Q_EMIT d->protocol->OnOpenNagReceived(d->openNagAtStart);
         else if (d->startNag)
             d->manager->ShowNag(NagScreen::AppAction::AppStart());

@@ -10,6 +10,7 @@ class QMenuBar;
 namespace Ostrel::App {
 class Application;
 class CustomizationManager;
+class LocalSocketProtocol;
 class ProductSettingsManager;
 } // namespace Ostrel::App
 
@@ -22,11 +23,14 @@ class NagWiring
 public:
     /// Adds the host's nag options to `parser`.
     static void addOptions(QCommandLineParser& parser);
-    /// With "--open-nag", hands the address to a running instance. True when it took it: this
+    /// Decides whether this is the primary instance, which listens for requests. In a second
+    /// instance with "--open-nag", hands the address to the primary. True when it took it: this
     /// process has nothing more to do.
-    static bool handOffToRunningInstance(const QCommandLineParser& parser, const QString& product);
+    static bool handOffToRunningInstance(const QCommandLineParser& parser,
+                                         Ostrel::App::LocalSocketProtocol& protocol, const QString& product);
 
-    NagWiring(Ostrel::App::Application& application, const QCommandLineParser& parser, const QString& product,
+    NagWiring(Ostrel::App::Application& application, const QCommandLineParser& parser,
+              const std::shared_ptr<Ostrel::App::LocalSocketProtocol>& protocol,
               const std::shared_ptr<Ostrel::App::ProductSettingsManager>& settings);
     ~NagWiring();
     NagWiring(const NagWiring&) = delete;

@@ -24,6 +24,7 @@
 #include "Foundation/AppendFile.h"
 #include "Foundation/UserOnlyFiles.h"
 #include "Interfaces/LifetimeObserver.h"
+#include "Ipc/LocalSocketProtocol.h"
 #include "QtUtil/QtMessageRouting.h"
 #include "QtUtil/Utf8.h"
 #include "Tracking/ApplicationTrackerFactory.h"
@@ -163,7 +164,8 @@ int main(int argc, char** argv)
     const QString logFile = startLogFile(*customization);
     const QString product = QString::fromStdString(customization->GetOrganizationName() + "/" +
                                                    customization->GetApplicationName());
-    if (NagWiring::handOffToRunningInstance(parser, product))
+    const auto protocol = std::make_shared<LocalSocketProtocol>(product);
+    if (NagWiring::handOffToRunningInstance(parser, *protocol, product))
         return 0;
 
     const auto splash = std::make_shared<HostSplash>(QString::fromStdString(customization->GetPresentableName()));
@@ -187,7 +189,7 @@ int main(int argc, char** argv)
         std::make_shared<LaunchTypeProcessor>(productSettings, installerSettings, QCoreApplication::arguments()));
 
     // 4. Nags and test options join here as the product adds them.
-    NagWiring nags(app, parser, product, productSettings);
+    NagWiring nags(app, parser, protocol, productSettings);
     TrackingLifetimeObserver trackingObserver;
     lifetime->RegisterEventHandler(&trackingObserver);
 

@@ -1,12 +1,16 @@
 // A nag asked for by another process: carried by the application from the inter-process
-// component to the nag manager, whichever of the two arrives first.
+// component to the nag manager, whichever of the two arrives first; only a nag the product could
+// show anyway, and one at a time.
 
 #include "App/Application/Application.h"
 #include "App/Application/LifetimeManager.h"
 #include "Ipc/IPCBaseProtocol.h"
 #include "Nag/IManager.h"
 
+#include "LogCapture.h"
 #include "TestEnvironment.h"
+
+#include <functional>
 
 using namespace Ostrel::App;
 using namespace Ostrel::App::NagScreen;
@@ -16,8 +20,12 @@ namespace {
 class RecordingManager : public IManager
 {
 public:
-    QStringList added;  // mode|action|url
+    QStringList added; // mode|action|url
     QStringList shown;
+    // Runs inside ShowNag, as the nested loop of a modal nag would.
+    std::function<void()> whileShown;
+    int depth = 0;
+    int deepest = 0;
     void AddObserver(IManagerObserver*) override {}
     void RemoveObserver(IManagerObserver*) override {}
     void AddNag(const QString& mode, const QString& action, const QUrl& url, const std::string& id,
@@ -33,6 +41,10 @@ public:
     int ShowNag(const QString& action) override
     {
         shown << action;
+        deepest = std::max(deepest, ++depth);
+        if (const auto run = std::exchange(whileShown, nullptr))
+            run();
+        --depth;
         return 1;
     }
     std::shared_ptr<NagHashSetter> GetNagHashSetter() override { return nullptr; }
@@ -51,19 +63,13 @@ class OnRequestTest : public QObject
 {
     Q_OBJECT
 public:
-    explicit OnRequestTest(Application& application)
-        : m_app(application)
-    {
-    }
+    explicit OnRequestTest(Application& application) : m_app(application) {}
 
 private:
     Application& m_app;
     std::shared_ptr<IPCBaseProtocol> m_protocol;
 
-    void request(const QString& url)
-    {
-        Q_EMIT m_protocol->OnOpenNagReceived(url);
-    }
+    void request(const QString& url) { Q_EMIT m_protocol->OnOpenNagReceived(url); }
 
 private Q_SLOTS:
     void init()
@@ -71,24 +77,26 @@ private Q_SLOTS:
         m_app.SetNagScreenManager(nullptr);
         m_protocol = std::make_shared<IPCBaseProtocol>();
         m_app.set<IPCBaseProtocol>(m_protocol);
+        request(QString()); // no request of an earlier test is replayed
     }
 
     void aRequestReachesTheManagerDecoded()
     {
         const auto manager = std::make_shared<RecordingManager>();
         m_app.SetNagScreenManager(manager);
-        request(QStringLiteral("https://nags.example/promo%3Fid%3D7"));
-        QCOMPARE(manager->added, QStringList{QStringLiteral("trial|open_nag|https://nags.example/promo?id=7")});
+        request(QStringLiteral("https://msg.ostrel.com/promo%3Fid%3D7"));
+        QCOMPARE(manager->added,
+                 QStringList{QStringLiteral("trial|open_nag|https://msg.ostrel.com/promo?id=7")});
         QCOMPARE(manager->shown, QStringList{QStringLiteral("open_nag")});
     }
 
     void anEarlyRequestWaitsAndEveryLaterManagerReplaysIt()
     {
-        request(QStringLiteral("https://nags.example/first"));
-        request(QStringLiteral("https://nags.example/second"));
+        request(QStringLiteral("https://msg.ostrel.com/first"));
+        request(QStringLiteral("https://msg.ostrel.com/second"));
         const auto manager = std::make_shared<RecordingManager>();
         m_app.SetNagScreenManager(manager);
-        QCOMPARE(manager->added, QStringList{QStringLiteral("trial|open_nag|https://nags.example/second")});
+        QCOMPARE(manager->added, QStringList{QStringLiteral("trial|open_nag|https://msg.ostrel.com/second")});
         QCOMPARE(manager->shown.size(), 1);
         const auto later = std::make_shared<RecordingManager>();
         m_app.SetNagScreenManager(later);
@@ -97,7 +105,7 @@ private Q_SLOTS:
 
     void anEmptyRequestReplacesTheWaitingOne()
     {
-        request(QStringLiteral("https://nags.example/waiting"));
+        request(QStringLiteral("https://msg.ostrel.com/waiting"));
         request(QString());
         const auto manager = std::make_shared<RecordingManager>();
         m_app.SetNagScreenManager(manager);
@@ -110,8 +118,38 @@ private Q_SLOTS:
         m_app.SetNagScreenManager(manager);
         const auto replacement = std::make_shared<IPCBaseProtocol>();
         m_app.set<IPCBaseProtocol>(replacement);
-        Q_EMIT replacement->OnOpenNagReceived(QStringLiteral("https://nags.example/x"));
+        Q_EMIT replacement->OnOpenNagReceived(QStringLiteral("https://msg.ostrel.com/x"));
         QCOMPARE(manager->shown.size(), 1);
+    }
+
+    void aRequestForWhatTheProductWouldNotShowLoadsNothing()
+    {
+        const auto manager = std::make_shared<RecordingManager>();
+        m_app.SetNagScreenManager(manager);
+        Ostrel::Test::LogCapture log;
+        request(QStringLiteral("file:///tmp/evil/main.qml"));
+        QVERIFY(manager->added.isEmpty());
+        QVERIFY(manager->shown.isEmpty());
+        QCOMPARE(log.matching("Nag request refused").size(), std::size_t(1));
+        QCOMPARE(log.matching("file:///tmp/evil/main.qml").size(), std::size_t(1));
+    }
+
+    void requestsDuringANagWaitAndOnlyTheLatestFollows()
+    {
+        const auto manager = std::make_shared<RecordingManager>();
+        m_app.SetNagScreenManager(manager);
+        manager->whileShown = [this]() {
+            for (int i = 1; i <= 3; ++i)
+                request(QStringLiteral("https://msg.ostrel.com/burst/%1").arg(i));
+        };
+        request(QStringLiteral("https://msg.ostrel.com/first"));
+        QCOMPARE(manager->shown.size(), 1);
+        QTRY_COMPARE(manager->shown.size(), 2);
+        QCOMPARE(manager->deepest, 1);
+        QCOMPARE(manager->added.last(), QStringLiteral("trial|open_nag|https://msg.ostrel.com/burst/3"));
+        // Nothing else waits: a fixed wait, since what is checked is that nothing more happens.
+        QTest::qWait(50);
+        QCOMPARE(manager->shown.size(), 2);
     }
 
     void cleanupTestCase()

@@ -2,6 +2,7 @@
 
 #include "App/Application/ApplicationImpl_p.h"
 #include "App/Application/DirectCallGateway.h"
+#include "App/Application/NagScreen/NagRequestPolicy.h"
 #include "App/Application/ProductConstants.h"
 #include "App/Application/SplashController_p.h"
 #include "App/Application/UserActionLog_p.h"
@@ -35,6 +36,7 @@
 #include <QElapsedTimer>
 #include <QMetaEnum>
 #include <QThread>
+#include <QTimer>
 
 #include <glog/logging.h>
 
@@ -353,9 +355,39 @@ void Application::Impl::openNag(const QString& url)
     const auto manager = application.get<NagScreen::IManager>();
     if (!manager)
         return;
+    // A burst of requests must not stack modal loops: while one requested nag shows, the latest
+    // request waits for it.
+    if (requestedNagOnScreen) {
+        waitingNagUrl = url;
+        return;
+    }
+    showRequestedNag(*manager, url);
+}
+
+void Application::Impl::showRequestedNag(NagScreen::IManager& manager, const QString& url)
+{
     const QUrl nagUrl(QUrl::fromPercentEncoding(url.toUtf8()));
-    manager->AddNag(manager->GetAppMode(), QStringLiteral("open_nag"), nagUrl, std::string(), std::string(), 0);
-    manager->ShowNag(QStringLiteral("open_nag"));
+    const auto policy = NagScreen::NagRequestPolicy::ForProduct(
+        application.get<ICustomizationManager>().get(), manager.GetNagConfig().get());
+    const QString refusal = policy.Refusal(nagUrl);
+    if (!refusal.isEmpty()) {
+        LOG(WARNING) << "Nag request refused, " << Util::QStringToUtf8(refusal) << ": \""
+                     << Util::QStringToUtf8(url.left(2048)) << "\"";
+        return;
+    }
+    struct OnScreen
+    {
+        bool& flag;
+        ~OnScreen() { flag = false; }
+    } onScreen{requestedNagOnScreen};
+    requestedNagOnScreen = true;
+    manager.AddNag(manager.GetAppMode(), QStringLiteral("open_nag"), nagUrl, std::string(), std::string(), 0);
+    manager.ShowNag(QStringLiteral("open_nag"));
+    if (waitingNagUrl) {
+        // From the event loop, once this nag's loop has unwound.
+        QTimer::singleShot(0, &requestContext, [this, next = *waitingNagUrl]() { openNag(next); });
+        waitingNagUrl.reset();
+    }
 }
 
 } // namespace Ostrel::App

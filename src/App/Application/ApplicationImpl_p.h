@@ -3,9 +3,11 @@
 #include "App/Application/Application.h"
 #include "App/Application/TopManagerObserver.h"
 
+#include <QObject>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace Ostrel::Util {
 class AppMutexLocker;
@@ -49,6 +51,14 @@ private:
     void onStart();
     /// A nag asked for by another process: remembered, and opened as soon as a nag manager is there.
     void openNag(const QString& url);
+    /// Shows the requested nag if the product could show it anyway; one nag on screen at a time.
+    void showRequestedNag(NagScreen::IManager& manager, const QString& url);
+
+    // A request that came while a requested nag was on screen: the latest one, shown after it.
+    bool requestedNagOnScreen = false;
+    std::optional<QString> waitingNagUrl;
+    // Context of the queued showing of the waiting request: it goes with this object.
+    QObject requestContext;
 };
 
 } // namespace Ostrel::App

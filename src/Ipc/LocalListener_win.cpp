@@ -1,0 +1,154 @@
+#include "Ipc/LocalListener_p.h"
+
+#include <glog/logging.h>
+
+#include <QLocalSocket>
+#include <QObject>
+#include <QWinEventNotifier>
+
+#include <windows.h>
+
+#include <sddl.h>
+
+namespace Ostrel::App {
+
+namespace {
+constexpr DWORD BufferSize = 64 * 1024;
+
+QString currentUserSid()
+{
+    HANDLE token = nullptr;
+    if (!::OpenProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &token))
+        return {};
+    DWORD size = 0;
+    ::GetTokenInformation(token, TokenUser, nullptr, 0, &size);
+    QByteArray buffer(static_cast<int>(size), '\0');
+    QString sid;
+    wchar_t* text = nullptr;
+    if (size != 0 && ::GetTokenInformation(token, TokenUser, buffer.data(), size, &size) &&
+        ::ConvertSidToStringSidW(reinterpret_cast<TOKEN_USER*>(buffer.data())->User.Sid, &text)) {
+        sid = QString::fromWCharArray(text);
+        ::LocalFree(text);
+    }
+    ::CloseHandle(token);
+    return sid;
+}
+} // namespace
+
+// Qt's local server can't make the first instance exclusive nor refuse remote clients: the pipe
+// instances are made here, and each connected one is handed to a QLocalSocket.
+class LocalListener::Impl
+{
+public:
+    QObject* parent = nullptr;
+    std::function<void(QLocalSocket*)> accepted;
+    QString name;
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    HANDLE pipe = INVALID_HANDLE_VALUE;
+    OVERLAPPED overlapped = {};
+    QWinEventNotifier* notifier = nullptr;
+    bool listening = false;
+
+    ~Impl()
+    {
+        delete notifier;
+        if (pipe != INVALID_HANDLE_VALUE) {
+            ::CancelIo(pipe);
+            ::CloseHandle(pipe);
+        }
+        if (overlapped.hEvent)
+            ::CloseHandle(overlapped.hEvent);
+        if (descriptor)
+            ::LocalFree(descriptor);
+    }
+
+    // A new instance of the pipe, waiting for the next client.
+    bool makeInstance(bool first, QString* why)
+    {
+        SECURITY_ATTRIBUTES attributes = {sizeof(attributes), descriptor, FALSE};
+        const DWORD openMode =
+            PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED | (first ? FILE_FLAG_FIRST_PIPE_INSTANCE : 0);
+        pipe =
+            ::CreateNamedPipeW(reinterpret_cast<const wchar_t*>(name.utf16()), openMode,
+                               PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_WAIT | PIPE_REJECT_REMOTE_CLIENTS,
+                               PIPE_UNLIMITED_INSTANCES, BufferSize, BufferSize, 0, &attributes);
+        if (pipe == INVALID_HANDLE_VALUE) {
+            *why = QStringLiteral("the pipe %1 can't be made (error %2)").arg(name).arg(::GetLastError());
+            return false;
+        }
+        ::ResetEvent(overlapped.hEvent);
+        if (!::ConnectNamedPipe(pipe, &overlapped)) {
+            const DWORD error = ::GetLastError();
+            if (error == ERROR_PIPE_CONNECTED) {
+                ::SetEvent(overlapped.hEvent);
+            } else if (error != ERROR_IO_PENDING) {
+                *why = QStringLiteral("the pipe %1 can't wait for clients (error %2)").arg(name).arg(error);
+                ::CloseHandle(pipe);
+                pipe = INVALID_HANDLE_VALUE;
+                return false;
+            }
+        }
+        return true;
+    }
+
+    void onConnected()
+    {
+        DWORD ignored = 0;
+        HANDLE connected = pipe;
+        pipe = INVALID_HANDLE_VALUE;
+        const bool ok = ::GetOverlappedResult(connected, &overlapped, &ignored, FALSE) != 0;
+        QString why;
+        if (!makeInstance(false, &why)) {
+            LOG(ERROR) << "Inter-process requests stop: " << why.toStdString();
+            listening = false;
+            notifier->setEnabled(false);
+        }
+        if (!ok) {
+            ::CloseHandle(connected);
+            return;
+        }
+        auto* socket = new QLocalSocket(parent);
+        if (!socket->setSocketDescriptor(reinterpret_cast<qintptr>(connected))) {
+            ::CloseHandle(connected);
+            delete socket;
+            return;
+        }
+        accepted(socket);
+    }
+};
+
+LocalListener::LocalListener(QObject* parent, std::function<void(QLocalSocket*)> accepted)
+    : d(std::make_unique<Impl>())
+{
+    d->parent = parent;
+    d->accepted = std::move(accepted);
+}
+
+LocalListener::~LocalListener() = default;
+
+bool LocalListener::listen(const QString& name, QString* why)
+{
+    d->name = name;
+    // The user alone, with full access; nobody else, not even to look.
+    const QString sddl = QStringLiteral("D:P(A;;GA;;;%1)").arg(currentUserSid());
+    if (!::ConvertStringSecurityDescriptorToSecurityDescriptorW(
+            reinterpret_cast<const wchar_t*>(sddl.utf16()), SDDL_REVISION_1, &d->descriptor, nullptr)) {
+        *why = QStringLiteral("the pipe's access rules can't be made (error %1)").arg(::GetLastError());
+        return false;
+    }
+    d->overlapped.hEvent = ::CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    // The first instance is exclusive: if somebody made a pipe of this name first, this fails.
+    if (!d->overlapped.hEvent || !d->makeInstance(true, why))
+        return false;
+    d->notifier = new QWinEventNotifier(d->overlapped.hEvent);
+    QObject::connect(d->notifier, &QWinEventNotifier::activated, d->parent, [this]() { d->onConnected(); });
+    d->listening = true;
+    return true;
+}
+
+bool LocalListener::isListening() const
+{
+    return d->listening;
+}
+
+} // namespace Ostrel::App
