@@ -159,8 +159,8 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     d->manager->SetNagsSettings(nagsSettings);
     d->manager->SetAppMode(NagScreen::AppMode::Free());
     // The nags' QML reaches only the product's nag server; plain http only while a test run has SSL off.
-    if (const auto customization = application.GetCustomizationManager())
-        d->manager->SetAccessRules({NagScreen::ProductNagHosts(*customization), !Util::DefaultSslUsage()});
+    d->manager->SetAccessRules(
+        {NagScreen::ProductNagHosts(application.GetCustomizationManager().get()), !Util::DefaultSslUsage()});
     // The nags speak the language of the look and feel, which the user may switch at any time.
     d->manager->SetLocaleProvider([app = &application]() {
         const auto lookAndFeel = app->GetLookAndFeel();

@@ -322,7 +322,7 @@ private Q_SLOTS:
             customization.custom["Hosts/messages"] = messagesHost.toStdString();
         if (!customWebNag.isEmpty())
             customization.custom["Links/CUSTOM_WEB_NAG_URL"] = customWebNag.toStdString();
-        QCOMPARE(ProductNagHosts(customization), hosts);
+        QCOMPARE(ProductNagHosts(&customization), hosts);
     }
 
     void nagLinksOpenOnlyWebPagesAndMail_data()

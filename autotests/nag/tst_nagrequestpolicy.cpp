@@ -2,10 +2,10 @@
 // nothing else.
 
 #include "App/Application/NagScreen/NagRequestPolicy.h"
-#include "Interfaces/ICustomizationManager.h"
 #include "Nag/NagConfig.h"
 #include "QtUtil/UrlProtocol.h"
 
+#include "FakeCustomization.h"
 #include "TestEnvironment.h"
 
 #include <QUrl>
@@ -16,28 +16,6 @@ using namespace Ostrel::App;
 using namespace Ostrel::App::NagScreen;
 
 namespace {
-
-class Customization : public ICustomizationManager
-{
-public:
-    std::map<std::string, std::string> values;
-    std::string GetApplicationName() const override { return "App"; }
-    std::string GetVersion() const override { return "1.0.0.0"; }
-    std::string GetOrganizationName() const override { return "Org"; }
-    std::string GetPartnerName() const override { return {}; }
-    std::string GetModuleName() const override { return {}; }
-    std::string GetBrand() const override { return {}; }
-    bool IsEmailCollectionEnabled() const override { return false; }
-    std::string GetPageType() const override { return {}; }
-    std::pair<std::string, std::string> GetUserAgent() const override { return {}; }
-    std::string GetPresentableName() const override { return {}; }
-    std::string GetInternalId() const override { return {}; }
-    std::string GetCustomValue(const std::string& key) const override
-    {
-        const auto found = values.find(key);
-        return found == values.end() ? std::string() : found->second;
-    }
-};
 
 NagRecord record(const QString& action, const QString& source)
 {
@@ -101,9 +79,9 @@ private Q_SLOTS:
         QFETCH(QStringList, customization);
         QFETCH(bool, ssl);
         QFETCH(QString, refusal);
-        Customization product;
+        Ostrel::Test::FakeCustomization product;
         for (const QString& entry : customization)
-            product.values[entry.section(QLatin1Char('='), 0, 0).toStdString()] =
+            product.custom[entry.section(QLatin1Char('='), 0, 0).toStdString()] =
                 entry.section(QLatin1Char('='), 1).toStdString();
         NagConfig config;
         config.Add(QStringLiteral("any_mode"),

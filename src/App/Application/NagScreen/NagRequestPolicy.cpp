@@ -1,5 +1,7 @@
 #include "App/Application/NagScreen/NagRequestPolicy.h"
 
+#include "App/Application/NagScreen/ProductNagHosts.h"
+
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/URLKeys.h"
 #include "Nag/NagConfig.h"
@@ -74,27 +76,7 @@ NagRequestPolicy NagRequestPolicy::ForProduct(const ICustomizationManager* custo
             }
         }
     }
-    return NagRequestPolicy(sources, NagHosts(customization), !Util::DefaultSslUsage());
-}
-
-QStringList NagRequestPolicy::NagHosts(const ICustomizationManager* customization)
-{
-    QStringList hosts;
-    for (const auto& [endpoint, defaultHost] : UrlEndpointHosts()) {
-        if (endpoint != "messages")
-            continue;
-        // The links manager puts a customized host (a port may come with it) behind "https://".
-        const std::string custom =
-            customization ? customization->GetCustomValue("Hosts/" + endpoint) : std::string();
-        addHostOf(hosts,
-                  QStringLiteral("https://") + Util::Utf8ToQString(custom.empty() ? defaultHost : custom));
-    }
-    const std::string customNag =
-        customization ? customization->GetCustomValue("Links/" + UrlKeyNames().at(CUSTOM_WEB_NAG_URL))
-                      : std::string();
-    if (!customNag.empty())
-        addHostOf(hosts, Util::Utf8ToQString(customNag));
-    return hosts;
+    return NagRequestPolicy(sources, ProductNagHosts(customization), !Util::DefaultSslUsage());
 }
 
 QString NagRequestPolicy::Refusal(const QUrl& url) const

@@ -37,13 +37,9 @@ public:
     NagRequestPolicy& operator=(NagRequestPolicy&&) noexcept;
 
     /// The policy of the running product: the sources of `config` (rows of the action "open_nag",
-    /// which are requests themselves, left out), the hosts of NagHosts(), and "http" only while
+    /// which are requests themselves, left out), the hosts of ProductNagHosts(), and "http" only while
     /// the process-wide SSL usage is off. Both arguments may be null.
     static NagRequestPolicy ForProduct(const ICustomizationManager* customization, const NagConfig* config);
-    /// The product's nag servers as customized: the host of the "messages" endpoint (the default
-    /// one, or the customization's "Hosts/messages"), and the host of "Links/CUSTOM_WEB_NAG_URL"
-    /// where the customization sets it. Lower case, no duplicates.
-    static QStringList NagHosts(const ICustomizationManager* customization);
 
     /// Empty when the nag at `url` may be shown; otherwise why not, in words for the log.
     QString Refusal(const QUrl& url) const;

@@ -19,18 +19,20 @@ void addHostOf(QStringList& hosts, const QString& url)
 
 } // namespace
 
-QStringList ProductNagHosts(const ICustomizationManager& customization)
+QStringList ProductNagHosts(const ICustomizationManager* customization)
 {
     QStringList hosts;
     for (const auto& [endpoint, defaultHost] : UrlEndpointHosts()) {
         if (endpoint != "messages")
             continue;
         // The links manager puts a customized host (a port may come with it) behind "https://".
-        const std::string custom = customization.GetCustomValue("Hosts/" + endpoint);
+        const std::string custom =
+            customization ? customization->GetCustomValue("Hosts/" + endpoint) : std::string();
         addHostOf(hosts,
                   QStringLiteral("https://") + Util::Utf8ToQString(custom.empty() ? defaultHost : custom));
     }
-    const std::string customNag = customization.GetCustomValue("Links/CUSTOM_WEB_NAG_URL");
+    const std::string customNag =
+        customization ? customization->GetCustomValue("Links/CUSTOM_WEB_NAG_URL") : std::string();
     if (!customNag.empty())
         addHostOf(hosts, Util::Utf8ToQString(customNag));
     return hosts;

@@ -14,6 +14,6 @@ namespace Ostrel::App::NagScreen {
 /// "messages" endpoint ("Hosts/messages", else the built-in one of UrlEndpointHosts), and the host
 /// of "Links/CUSTOM_WEB_NAG_URL" when the customization sets that link. Lower case, no duplicates.
 /// What nags may reach and which nag requests of other processes are honoured both rest on it.
-OSTREL_APP_EXPORT QStringList ProductNagHosts(const ICustomizationManager& customization);
+OSTREL_APP_EXPORT QStringList ProductNagHosts(const ICustomizationManager* customization);
 
 } // namespace Ostrel::App::NagScreen
