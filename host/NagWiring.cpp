@@ -38,13 +38,20 @@ using namespace Ostrel::App;
 namespace {
 
 // Long enough for a primary started a moment earlier to come to listening.
-constexpr int HandOffTimeoutMs = 5000;
+constexpr int DefaultHandOffTimeoutMs = 5000;
 
 QCommandLineOption openNagOption()
 {
     return {QStringLiteral("open-nag"),
             QStringLiteral("Show the nag at URL; a running instance shows it instead of a new one."),
             QStringLiteral("URL")};
+}
+QCommandLineOption handOffTimeoutOption()
+{
+    return {QStringLiteral("hand-off-timeout"),
+            QStringLiteral("With --open-nag, wait at most MS milliseconds for a running instance to take the "
+                           "request (default 5000)."),
+            QStringLiteral("MS")};
 }
 QCommandLineOption dimmingOption()
 {
@@ -128,6 +135,7 @@ public:
 void NagWiring::addOptions(QCommandLineParser& parser)
 {
     parser.addOption(openNagOption());
+    parser.addOption(handOffTimeoutOption());
     parser.addOption(dimmingOption());
     parser.addOption(notificationOption());
     parser.addOption(noStartNagOption());
@@ -139,7 +147,11 @@ bool NagWiring::handOffToRunningInstance(const QCommandLineParser& parser, Local
 {
     if (protocol.Listen() || !protocol.IsSecondary() || !parser.isSet(openNagOption()))
         return false;
-    if (LocalSocketProtocol::SendOpenNag(product, parser.value(openNagOption()), HandOffTimeoutMs)) {
+    bool valid = false;
+    int timeoutMs = parser.value(handOffTimeoutOption()).toInt(&valid);
+    if (!valid || timeoutMs < 0)
+        timeoutMs = DefaultHandOffTimeoutMs;
+    if (LocalSocketProtocol::SendOpenNag(product, parser.value(openNagOption()), timeoutMs)) {
         LOG(INFO) << "The running instance shows the requested nag";
         return true;
     }
