@@ -3,6 +3,7 @@
 #include "Nag/DifferenceHash.h"
 #include "Nag/IActionStrategy.h"
 #include "Nag/NagCallback_p.h"
+#include "Nag/NagFonts.h"
 #include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
@@ -38,6 +39,7 @@ QmlContent::QmlContent(const NagContext& context, ContentEnvironment environment
     : AbstractContent(context, std::move(environment), parent)
     , d(std::make_unique<Impl>())
 {
+    RegisterNagFonts();
     d->callback = new NagCallback(*this);
     d->view = new QQuickWidget;
     d->view->setObjectName(QStringLiteral("NagView"));
