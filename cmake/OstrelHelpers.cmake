@@ -70,3 +70,23 @@ function(ostrel_add_qtest name)
         set_tests_properties(${name} PROPERTIES ENVIRONMENT "${ARG_ENVIRONMENT}")
     endif()
 endfunction()
+
+# ostrel_sanitizers(<OFF|ON|address|thread>)
+#
+# Compile and link options of the sanitizer builds for everything defined after the call.
+# "address" (or ON, or any other true value) is AddressSanitizer with UndefinedBehaviorSanitizer,
+# where any report stops the program; "thread" is ThreadSanitizer, which cannot be combined with
+# AddressSanitizer.
+function(ostrel_sanitizers kind)
+    string(TOLOWER "${kind}" kind)
+    if(kind STREQUAL "thread")
+        set(sanitizers -fsanitize=thread)
+    elseif(kind STREQUAL "address" OR kind)
+        set(sanitizers -fsanitize=address,undefined)
+        set(extra -fno-sanitize-recover=all)
+    else()
+        return()
+    endif()
+    add_compile_options(${sanitizers} ${extra} -fno-omit-frame-pointer)
+    add_link_options(${sanitizers})
+endfunction()

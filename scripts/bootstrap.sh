@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs, from Debian's packages, whatever the build, the tests and the sample host need.
+# Installs, from Debian's packages, whatever the build, the tests, CI and the sample host need.
 # Idempotent and quiet when everything is already there, so that the README's commands can
 # call it every time.
 set -euo pipefail
@@ -9,8 +9,11 @@ packages=(
   qtbase5-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
   libboost-dev libgoogle-glog-dev libbenchmark-dev
-  xvfb xauth fonts-dejavu-core
+  xvfb xauth
+  fonts-dejavu-core fonts-dejavu-extra
   clang-14 libclang-rt-14-dev
+  g++-mingw-w64-x86-64-posix
+  locales tzdata
 )
 
 missing=()
@@ -27,4 +30,15 @@ if [ ${#missing[@]} -gt 0 ]; then
   export DEBIAN_FRONTEND=noninteractive
   apt-get update -qq
   apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+fi
+
+# CI runs the suite once more under another system locale (see .ci/run); the locale must exist.
+if ! locale -a 2>/dev/null | grep -qi '^de_DE\.utf-\?8$'; then
+  if [ "$(id -u)" -ne 0 ]; then
+    echo "bootstrap: the de_DE.UTF-8 locale is missing (only CI's locale stage needs it); run as root" >&2
+  else
+    sed -i 's/^# *\(de_DE.UTF-8 UTF-8\)/\1/' /etc/locale.gen
+    grep -q '^de_DE.UTF-8 UTF-8' /etc/locale.gen || echo 'de_DE.UTF-8 UTF-8' >>/etc/locale.gen
+    locale-gen >/dev/null
+  fi
 fi

@@ -9,9 +9,10 @@
 #include "TestEnvironment.h"
 
 #include <QDir>
-#include <QRegularExpression>
 #include <QFile>
+#include <QFontDatabase>
 #include <QPixmapCache>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 using namespace Ostrel;
@@ -46,6 +47,16 @@ std::unique_ptr<LookAndFeelManager> realTree(const std::list<std::string>& baseN
 {
     return std::make_unique<Test::EnglishLookAndFeel>(Core::ioPath(kBuildRoot), kTitleFile, baseNames,
                                                       std::list<std::string>());
+}
+
+// The families of the fonts the process registered itself. The machine's own fonts never count,
+// even when they are the same family as a theme's.
+QStringList applicationFontFamilies()
+{
+    QStringList families;
+    for (int id = 0; id < 16; ++id)
+        families += QFontDatabase::applicationFontFamilies(id);
+    return families;
 }
 
 QString sheet(LookAndFeelManager& manager)
@@ -185,6 +196,26 @@ private slots:
         QCOMPARE(sheet(*manager), before);
         QCOMPARE(recorder.events.size(), 3);
         manager->UnregisterObserver(&recorder);
+    }
+
+    void themesRegisterTheFontsTheyCarry_data()
+    {
+        QTest::addColumn<QString>("theme");
+        QTest::addColumn<QStringList>("families");
+        QTest::newRow("dark") << "dark" << QStringList{QStringLiteral("DejaVu Sans")};
+        QTest::newRow("light") << "light" << QStringList{QStringLiteral("DejaVu Sans")};
+    }
+
+    void themesRegisterTheFontsTheyCarry()
+    {
+        QFETCH(QString, theme);
+        QFETCH(QStringList, families);
+        QFontDatabase::removeAllApplicationFonts();
+        const auto manager = realTree({"base"});
+        manager->Initialize("en_US", theme.toStdString());
+        QCOMPARE(applicationFontFamilies(), families);
+        manager->SetTheme(std::string());
+        QFontDatabase::removeAllApplicationFonts();
     }
 
     void unknownThemeComposesOnlyTheProductFiles()

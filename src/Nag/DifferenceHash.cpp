@@ -20,4 +20,14 @@ QString DifferenceHash(const QImage& picture, const QSize& hashSize)
     return bits;
 }
 
+int DifferenceHashDistance(const QString& first, const QString& second)
+{
+    if (first.isEmpty() || first.size() != second.size())
+        return -1;
+    int distance = 0;
+    for (int i = 0; i < first.size(); ++i)
+        distance += first.at(i) != second.at(i) ? 1 : 0;
+    return distance;
+}
+
 } // namespace Ostrel::App::NagScreen

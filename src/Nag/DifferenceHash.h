@@ -17,4 +17,8 @@ namespace Ostrel::App::NagScreen {
 /// Empty for a null picture or an empty size.
 OSTREL_NAG_EXPORT QString DifferenceHash(const QImage& picture, const QSize& hashSize);
 
+/// How far apart two fingerprints are: the number of places where they differ. -1 when either is
+/// empty or their lengths differ, since such fingerprints were not taken at the same hash size.
+OSTREL_NAG_EXPORT int DifferenceHashDistance(const QString& first, const QString& second);
+
 } // namespace Ostrel::App::NagScreen

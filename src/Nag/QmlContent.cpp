@@ -4,6 +4,7 @@
 #include "Nag/IActionStrategy.h"
 #include "Nag/NagCallback_p.h"
 #include "Nag/NagEngineAccess_p.h"
+#include "Nag/NagFonts.h"
 #include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
@@ -41,6 +42,7 @@ QmlContent::QmlContent(const NagContext& context, ContentEnvironment environment
     : AbstractContent(context, std::move(environment), parent)
     , d(std::make_unique<Impl>())
 {
+    RegisterNagFonts();
     d->callback = new NagCallback(*this);
     d->view = new QQuickWidget;
     d->view->setObjectName(QStringLiteral("NagView"));

@@ -69,11 +69,12 @@ Item {
                 Rectangle { x: 158; y: 112; width: 14; height: 14; rotation: 45; color: "#5b2a86" }
             }
             Text {
+                renderType: Text.QtRendering
                 anchors { horizontalCenter: parent.horizontalCenter; top: screen.bottom; topMargin: 22 }
                 text: "PRO"
                 color: "#ffffff"
                 opacity: 0.85
-                font { family: Style.fontVerdana; pixelSize: 15; bold: true; letterSpacing: 6 }
+                font { family: Style.fontFamily; pixelSize: 15; bold: true; letterSpacing: 6; hintingPreference: Font.PreferNoHinting }
             }
         }
 
@@ -83,19 +84,21 @@ Item {
             spacing: 16
 
             Text {
+                renderType: Text.QtRendering
                 width: parent.width
                 wrapMode: Text.WordWrap
                 text: TU.getLocalizedText("Before you go")
                 color: "#17233b"
-                font { family: Style.fontArial; pixelSize: 28; bold: true }
+                font { family: Style.fontFamily; pixelSize: 28; bold: true; hintingPreference: Font.PreferNoHinting }
             }
             Text {
+                renderType: Text.QtRendering
                 width: parent.width
                 wrapMode: Text.WordWrap
                 text: TU.getLocalizedText("Unlock everything %1 can do").arg(callback.GetProductNameWithOrganization())
                 color: "#4a5670"
                 lineHeight: 1.2
-                font { family: Style.fontArial; pixelSize: 15 }
+                font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting }
             }
             Column {
                 spacing: 10
@@ -106,9 +109,9 @@ Item {
                         spacing: 10
                         Rectangle {
                             width: 18; height: 18; radius: 9; color: "#fbe6ee"
-                            Text { anchors.centerIn: parent; text: "\u2713"; color: "#c8457a"; font { pixelSize: 12; bold: true } }
+                            Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2713"; color: "#c8457a"; font { family: Style.fontFamily; pixelSize: 12; bold: true; hintingPreference: Font.PreferNoHinting } }
                         }
-                        Text { text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontArial; pixelSize: 14 } }
+                        Text { renderType: Text.QtRendering; text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
                     }
                 }
             }
@@ -122,32 +125,34 @@ Item {
                 id: primary
                 width: Math.max(170, primaryLabel.implicitWidth + 48); height: 44; radius: 6
                 color: primaryArea.pressed ? "#a3345f" : (primaryArea.containsMouse ? "#b83d6d" : "#c8457a")
-                Text { id: primaryLabel; anchors.centerIn: parent; text: TU.getLocalizedText("Upgrade now"); color: "#ffffff"; font { family: Style.fontArial; pixelSize: 15; bold: true } }
+                Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Upgrade now"); color: "#ffffff"; font { family: Style.fontFamily; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.buyNow() }
             }
             Rectangle {
                 width: Math.max(110, laterLabel.implicitWidth + 40); height: 44; radius: 6
                 color: laterArea.containsMouse ? "#f1f4f9" : "#ffffff"
                 border.color: "#cdd5e3"
-                Text { id: laterLabel; anchors.centerIn: parent; text: TU.getLocalizedText("Not now"); color: "#3b4863"; font { family: Style.fontArial; pixelSize: 15 } }
+                Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Not now"); color: "#3b4863"; font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: laterArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
             }
         }
 
         Text {
+            renderType: Text.QtRendering
             anchors { left: body.left; bottom: parent.bottom; bottomMargin: 28 }
             text: TU.getLocalizedText("<a href=\"#\">Compare editions</a>")
             textFormat: Text.RichText
             linkColor: "#c8457a"
-            font { family: Style.fontArial; pixelSize: 13 }
+            font { family: Style.fontFamily; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
             onLinkActivated: root.openLink(root.compareUrl)
             MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; cursorShape: Qt.PointingHandCursor }
         }
         Text {
+            renderType: Text.QtRendering
             anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
             text: TU.getLocalizedText("Don't show again")
             color: dontShowArea.containsMouse ? "#4a5670" : "#8a94a8"
-            font { family: Style.fontArial; pixelSize: 12 }
+            font { family: Style.fontFamily; pixelSize: 12; hintingPreference: Font.PreferNoHinting }
             MouseArea { id: dontShowArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.dontShow() }
         }
     }
@@ -158,7 +163,7 @@ Item {
         anchors.top: parent.top
         anchors.topMargin: 12
         color: closeArea.containsMouse ? "#eef1f6" : "transparent"
-        Text { anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; font.pixelSize: 14 }
+        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
         MouseArea { id: closeArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
     }
 

@@ -13,7 +13,7 @@ Item {
     readonly property string nag_name: "Welcome tour"
     readonly property string hash_name: "app_start_welcome"
     readonly property size hash_size: Qt.size(16, 8)
-    readonly property string nag_hash: "10000000000000010000000100100001000010010010000000001101001000010101110100100001001110000000000100000001000100010000000100000110"
+    readonly property string nag_hash: "10000000000000010000000100011000000010010001000000001101010000010101110101000001001110000000000100000001010100010000000101000100"
     readonly property string whatsNewUrl: "https://go.ostrel.com/whats-new/?asrc=nag_app_start&-TAIL_WITH_ARGS-"
 
     function accept() { callback.Accept() }
@@ -71,11 +71,12 @@ Item {
                 Rectangle { x: 158; y: 112; width: 14; height: 14; rotation: 45; color: "#1d3f8f" }
             }
             Text {
+                renderType: Text.QtRendering
                 anchors { horizontalCenter: parent.horizontalCenter; top: screen.bottom; topMargin: 22 }
                 text: "\u25CF REC  00:42"
                 color: "#ffffff"
                 opacity: 0.85
-                font { family: Style.fontVerdana; pixelSize: 13; bold: true; letterSpacing: 1 }
+                font { family: Style.fontFamily; pixelSize: 13; bold: true; letterSpacing: 1; hintingPreference: Font.PreferNoHinting }
             }
         }
 
@@ -85,19 +86,21 @@ Item {
             spacing: 16
 
             Text {
+                renderType: Text.QtRendering
                 width: parent.width
                 wrapMode: Text.WordWrap
                 text: TU.getLocalizedText("Welcome to %1").arg(callback.GetProductNameWithOrganization())
                 color: "#17233b"
-                font { family: Style.fontArial; pixelSize: 28; bold: true }
+                font { family: Style.fontFamily; pixelSize: 28; bold: true; hintingPreference: Font.PreferNoHinting }
             }
             Text {
+                renderType: Text.QtRendering
                 width: parent.width
                 wrapMode: Text.WordWrap
                 text: TU.getLocalizedText("Capture any part of your screen, mark it up and share it in seconds.")
                 color: "#4a5670"
                 lineHeight: 1.2
-                font { family: Style.fontArial; pixelSize: 15 }
+                font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting }
             }
             Column {
                 spacing: 10
@@ -108,9 +111,9 @@ Item {
                         spacing: 10
                         Rectangle {
                             width: 18; height: 18; radius: 9; color: "#e4edfd"
-                            Text { anchors.centerIn: parent; text: "\u2713"; color: "#2f6fd6"; font { pixelSize: 12; bold: true } }
+                            Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2713"; color: "#2f6fd6"; font { family: Style.fontFamily; pixelSize: 12; bold: true; hintingPreference: Font.PreferNoHinting } }
                         }
-                        Text { text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontArial; pixelSize: 14 } }
+                        Text { renderType: Text.QtRendering; text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
                     }
                 }
             }
@@ -124,32 +127,34 @@ Item {
                 id: primary
                 width: Math.max(170, primaryLabel.implicitWidth + 48); height: 44; radius: 6
                 color: primaryArea.pressed ? "#2257b8" : (primaryArea.containsMouse ? "#2a66d1" : "#2f6fd6")
-                Text { id: primaryLabel; anchors.centerIn: parent; text: TU.getLocalizedText("Start capturing"); color: "#ffffff"; font { family: Style.fontArial; pixelSize: 15; bold: true } }
+                Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Start capturing"); color: "#ffffff"; font { family: Style.fontFamily; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.accept() }
             }
             Rectangle {
                 width: Math.max(110, laterLabel.implicitWidth + 40); height: 44; radius: 6
                 color: laterArea.containsMouse ? "#f1f4f9" : "#ffffff"
                 border.color: "#cdd5e3"
-                Text { id: laterLabel; anchors.centerIn: parent; text: TU.getLocalizedText("Later"); color: "#3b4863"; font { family: Style.fontArial; pixelSize: 15 } }
+                Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Later"); color: "#3b4863"; font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: laterArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
             }
         }
 
         Text {
+            renderType: Text.QtRendering
             anchors { left: body.left; bottom: parent.bottom; bottomMargin: 28 }
             text: TU.getLocalizedText("<a href=\"#\">See what's new in this version</a>")
             textFormat: Text.RichText
             linkColor: "#2f6fd6"
-            font { family: Style.fontArial; pixelSize: 13 }
+            font { family: Style.fontFamily; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
             onLinkActivated: root.openLink(root.whatsNewUrl)
             MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; cursorShape: Qt.PointingHandCursor }
         }
         Text {
+            renderType: Text.QtRendering
             anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
             text: TU.getLocalizedText("Don't show again")
             color: dontShowArea.containsMouse ? "#4a5670" : "#8a94a8"
-            font { family: Style.fontArial; pixelSize: 12 }
+            font { family: Style.fontFamily; pixelSize: 12; hintingPreference: Font.PreferNoHinting }
             MouseArea { id: dontShowArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.dontShow() }
         }
     }
@@ -160,7 +165,7 @@ Item {
         anchors.top: parent.top
         anchors.topMargin: 12
         color: closeArea.containsMouse ? "#eef1f6" : "transparent"
-        Text { anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; font.pixelSize: 14 }
+        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
         MouseArea { id: closeArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
     }
 

@@ -69,11 +69,12 @@ Item {
                 Rectangle { x: 158; y: 112; width: 14; height: 14; rotation: 45; color: "#0f5c54" }
             }
             Text {
+                renderType: Text.QtRendering
                 anchors { horizontalCenter: parent.horizontalCenter; top: screen.bottom; topMargin: 22 }
                 text: "\u00A9 watermark"
                 color: "#ffffff"
                 opacity: 0.85
-                font { family: Style.fontVerdana; pixelSize: 14; italic: true }
+                font { family: Style.fontFamily; pixelSize: 14; italic: true; hintingPreference: Font.PreferNoHinting }
             }
         }
 
@@ -83,19 +84,21 @@ Item {
             spacing: 16
 
             Text {
+                renderType: Text.QtRendering
                 width: parent.width
                 wrapMode: Text.WordWrap
                 text: TU.getLocalizedText("Your export will carry a watermark")
                 color: "#17233b"
-                font { family: Style.fontArial; pixelSize: 28; bold: true }
+                font { family: Style.fontFamily; pixelSize: 28; bold: true; hintingPreference: Font.PreferNoHinting }
             }
             Text {
+                renderType: Text.QtRendering
                 width: parent.width
                 wrapMode: Text.WordWrap
                 text: TU.getLocalizedText("The free edition marks every exported file. Remove the mark once and for all with the full edition.")
                 color: "#4a5670"
                 lineHeight: 1.2
-                font { family: Style.fontArial; pixelSize: 15 }
+                font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting }
             }
         }
 
@@ -107,32 +110,34 @@ Item {
                 id: primary
                 width: Math.max(170, primaryLabel.implicitWidth + 48); height: 44; radius: 6
                 color: primaryArea.pressed ? "#0d6b5c" : (primaryArea.containsMouse ? "#117d6b" : "#138a76")
-                Text { id: primaryLabel; anchors.centerIn: parent; text: TU.getLocalizedText("Remove watermark"); color: "#ffffff"; font { family: Style.fontArial; pixelSize: 15; bold: true } }
+                Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Remove watermark"); color: "#ffffff"; font { family: Style.fontFamily; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.buyNow() }
             }
             Rectangle {
                 width: Math.max(110, laterLabel.implicitWidth + 40); height: 44; radius: 6
                 color: laterArea.containsMouse ? "#f1f4f9" : "#ffffff"
                 border.color: "#cdd5e3"
-                Text { id: laterLabel; anchors.centerIn: parent; text: TU.getLocalizedText("Export with watermark"); color: "#3b4863"; font { family: Style.fontArial; pixelSize: 15 } }
+                Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Export with watermark"); color: "#3b4863"; font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: laterArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.accept() }
             }
         }
 
         Text {
+            renderType: Text.QtRendering
             anchors { left: body.left; bottom: parent.bottom; bottomMargin: 28 }
             text: TU.getLocalizedText("<a href=\"#\">Why is there a watermark?</a>")
             textFormat: Text.RichText
             linkColor: "#138a76"
-            font { family: Style.fontArial; pixelSize: 13 }
+            font { family: Style.fontFamily; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
             onLinkActivated: root.openLink(root.whyUrl)
             MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; cursorShape: Qt.PointingHandCursor }
         }
         Text {
+            renderType: Text.QtRendering
             anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
             text: TU.getLocalizedText("Don't show again")
             color: dontShowArea.containsMouse ? "#4a5670" : "#8a94a8"
-            font { family: Style.fontArial; pixelSize: 12 }
+            font { family: Style.fontFamily; pixelSize: 12; hintingPreference: Font.PreferNoHinting }
             MouseArea { id: dontShowArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.dontShow() }
         }
     }
@@ -143,7 +148,7 @@ Item {
         anchors.top: parent.top
         anchors.topMargin: 12
         color: closeArea.containsMouse ? "#eef1f6" : "transparent"
-        Text { anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; font.pixelSize: 14 }
+        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
         MouseArea { id: closeArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
     }
 
