@@ -33,8 +33,7 @@ ctest --output-on-failure --timeout 600 -j "$(nproc)" -R "$regex" || status=1
 
 # The nag id lock tests, run by name: the same executable's web nag test loads QML over HTTP, and
 # the QML loader thread and the network thread then race inside Qt with no named frame that a
-# suppression could match. The environment is the one CTest gives the test.
+# suppression could match. The test sets up its own headless process, as under CTest.
 echo "tsan: $locks_test ${locks_functions[*]}"
-env QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software XDG_RUNTIME_DIR="$build/test-runtime" \
-  OSTREL_QT_WARNINGS_FAIL=1 "$build/bin/$locks_test" "${locks_functions[@]}" || status=1
+"$build/bin/$locks_test" "${locks_functions[@]}" || status=1
 exit $status
