@@ -17,15 +17,14 @@
 #include "FakeHardware.h"
 #include "FakeLaunchType.h"
 #include "FakeLookAndFeel.h"
-#include "MemorySettings.h"
 #include "LogCapture.h"
+#include "MemorySettings.h"
+#include "RecordingHttpServer.h"
 #include "TestEnvironment.h"
 
 #include <QDesktopServices>
 #include <QQuickItem>
 #include <QQuickWidget>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTemporaryDir>
 
 using namespace Ostrel;
@@ -35,41 +34,15 @@ using namespace Ostrel::Test;
 
 namespace {
 
-// A nag server on 127.0.0.1 that keeps the path of every request: "/nag/main.qml" is `nag`,
-// "/data" and "/secret" answer with a text, anything else (the engine's qmldir) is not there.
-// A minimal stand-in until the shared test server lands.
-class NagServer : public QTcpServer
+// The nag server: "/nag/main.qml" is `nag`, "/data" and "/secret" answer with a text, anything
+// else (the engine's qmldir) is not there.
+void serveNag(RecordingHttpServer& server, const QByteArray& nag)
 {
-public:
-    QByteArray nag;
-    QStringList paths;
-
-    NagServer()
-    {
-        connect(this, &QTcpServer::newConnection, this, [this]() {
-            while (QTcpSocket* socket = nextPendingConnection()) {
-                connect(socket, &QTcpSocket::readyRead, socket, [this, socket]() {
-                    const QByteArray request = socket->readAll();
-                    const QString path = QString::fromLatin1(request.split(' ').value(1));
-                    paths << path;
-                    const QByteArray body = path == QLatin1String("/nag/main.qml") ? nag
-                                            : path == QLatin1String("/data")       ? "allowed-body"
-                                            : path == QLatin1String("/secret")     ? "SECRET"
-                                                                                   : QByteArray();
-                    socket->write((body.isEmpty() ? "HTTP/1.1 404 Not Found" : "HTTP/1.1 200 OK") +
-                                  QByteArray("\r\nContent-Length: ") + QByteArray::number(body.size()) +
-                                  "\r\nConnection: close\r\n\r\n" + body);
-                    socket->disconnectFromHost();
-                });
-            }
-        });
-        listen(QHostAddress::LocalHost);
-    }
-    QString base(const QString& host = QStringLiteral("127.0.0.1")) const
-    {
-        return QStringLiteral("http://%1:%2").arg(host).arg(serverPort());
-    }
-};
+    server.setReply(RecordingHttpServer::response(404));
+    server.setReplyFor("/nag/main.qml", RecordingHttpServer::response(200, nag));
+    server.setReplyFor("/data", RecordingHttpServer::response(200, "allowed-body"));
+    server.setReplyFor("/secret", RecordingHttpServer::response(200, "SECRET"));
+}
 
 class FixedGenerator : public IWebNagUrlGenerator
 {
@@ -220,13 +193,14 @@ private Q_SLOTS:
         QFETCH(QString, script);
         QFETCH(QString, expected);
         QFETCH(QString, refused);
-        NagServer server;
+        RecordingHttpServer server;
+        const QString other = QStringLiteral("http://localhost:%1").arg(server.url(QString()).port());
         const auto fill = [&](QString text) {
             return text.replace(QLatin1String("%BASE%"), server.base())
-                .replace(QLatin1String("%OTHER%"), server.base(QStringLiteral("localhost")))
+                .replace(QLatin1String("%OTHER%"), other)
                 .replace(QLatin1String("%DIR%"), QUrl::fromLocalFile(dir.path()).toString());
         };
-        server.nag = probingNag(fill(script));
+        serveNag(server, probingNag(fill(script)));
 
         ContentEnvironment environment;
         environment.urlGenerator =
@@ -241,7 +215,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(nag->property("result").toString() != QLatin1String("pending"), 10000);
 
         QCOMPARE(nag->property("result").toString(), expected);
-        QVERIFY(!server.paths.contains(QStringLiteral("/secret")));
+        QVERIFY(server.requestsTo("/secret").isEmpty());
         QVERIFY(desktop.opened.isEmpty());
         const auto refusals = log.matching("Nag access refused: ");
         if (refused.isEmpty()) {
@@ -255,8 +229,8 @@ private Q_SLOTS:
 
     void withoutRulesNoRemoteNagLoads()
     {
-        NagServer server;
-        server.nag = probingNag(QString());
+        RecordingHttpServer server;
+        serveNag(server, probingNag(QString()));
         const QString address = server.base() + QStringLiteral("/nag/main.qml");
         ContentEnvironment environment;
         environment.urlGenerator = std::make_shared<FixedGenerator>(QUrl(address));
@@ -265,7 +239,7 @@ private Q_SLOTS:
         LogCapture log;
         QVERIFY(!loadAndWait(content));
         QCOMPARE(content.State(), ContentState::Failed);
-        QVERIFY(server.paths.isEmpty());
+        QVERIFY(server.requests().isEmpty());
         QCOMPARE(log.matching("Nag access refused: " + Util::QStringToUtf8(address)).size(), size_t(1));
     }
 
