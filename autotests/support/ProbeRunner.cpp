@@ -46,8 +46,10 @@ ProbeRunner::Result ProbeRunner::run(const QStringList& arguments, int timeoutMs
     const QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'));
     for (const QString& line : lines) {
         const int equals = line.indexOf(QLatin1Char('='));
-        if (equals > 0)
+        if (equals > 0) {
             result.values.insert(line.left(equals), line.mid(equals + 1));
+            result.keys.append(line.left(equals));
+        }
     }
     return result;
 }

@@ -20,6 +20,7 @@ public:
         int exitCode = -1;
         QProcess::ExitStatus exitStatus = QProcess::CrashExit;
         QMap<QString, QString> values;
+        QStringList keys; // in the order the child printed them
         QString standardError;
 
         QString value(const QString& key) const { return values.value(key); }

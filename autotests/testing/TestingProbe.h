@@ -1,19 +1,13 @@
 #pragma once
 
-#include <QMap>
+#include "ProbeRunner.h"
+
 #include <QProcess>
 #include <QtTest>
 
 // Runs the harness probe (a child process) with a command line and reads its "key=value" lines.
-struct ProbeResult
+struct ProbeResult : Ostrel::Test::ProbeRunner::Result
 {
-    bool finished = false;
-    int exitCode = -1;
-    QProcess::ExitStatus exitStatus = QProcess::CrashExit;
-    QMap<QString, QString> values;
-    QStringList keys; // in the order the probe printed them
-    QString standardError;
-
     QString decoded(const QString& key) const
     {
         return QString::fromUtf8(QByteArray::fromBase64(values.value(key).toLatin1()));
@@ -40,27 +34,10 @@ inline QProcessEnvironment probeEnvironment(const QString& dataHome)
 
 inline ProbeResult runProbe(const QStringList& arguments, QProcessEnvironment env)
 {
-    QProcess process;
-    process.setProcessEnvironment(env);
-    process.start(QStringLiteral(TESTING_PROBE), arguments);
+    Ostrel::Test::ProbeRunner runner(QStringLiteral(TESTING_PROBE));
+    runner.environment() = std::move(env);
     ProbeResult result;
     // Bounded: a probe that hangs fails its row within seconds.
-    if (!process.waitForFinished(20000)) {
-        process.kill();
-        process.waitForFinished();
-        return result;
-    }
-    result.finished = true;
-    result.exitCode = process.exitCode();
-    result.exitStatus = process.exitStatus();
-    result.standardError = QString::fromUtf8(process.readAllStandardError());
-    const QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'));
-    for (const QString& line : lines) {
-        const int equals = line.indexOf(QLatin1Char('='));
-        if (equals > 0) {
-            result.values.insert(line.left(equals), line.mid(equals + 1));
-            result.keys.append(line.left(equals));
-        }
-    }
+    static_cast<Ostrel::Test::ProbeRunner::Result&>(result) = runner.run(arguments, 20000);
     return result;
 }
