@@ -6,6 +6,7 @@
 #include "App/Application/Extensions/EmailCollector/EmailCollector.h"
 #include "App/Application/Extensions/InstallerUpdater/InstallerUpdater.h"
 #include "App/Application/Extensions/Tyfi/Tyfi.h"
+#include "Foundation/PersonalDataMask.h"
 #include "Http/HttpClient.h"
 #include "Interfaces/ILifetimeManager.h"
 #include "Interfaces/ILinksManager.h"
@@ -60,7 +61,7 @@ ExtensionsWiring::ExtensionsWiring(Application& application, ILifetimeManager& l
                 return;
             Networking::HttpRequest request;
             request.url = Util::QStringToUtf8(linksManager->GetUrl(URLKeys::CHECK_FOR_UPDATES_URL));
-            LOG(INFO) << "Update check requested: " << request.url;
+            LOG(INFO) << "Update check requested: " << Core::PersonalDataMask::mask(request.url);
             http->send(request, [](const Networking::HttpResponse& response) {
                 if (response.error.empty())
                     LOG(INFO) << "Update check answered with status " << response.status;

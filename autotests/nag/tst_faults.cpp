@@ -3,9 +3,11 @@
 
 #include "App/Application/NagScreen/DialogStrategy.h"
 #include "Nag/IWebNagUrlGenerator.h"
+#include "Nag/NagManager.h"
 #include "Nag/QuickContent.h"
 #include "Nag/WebQuickContent.h"
 
+#include "LogCapture.h"
 #include "RecordingHttpServer.h"
 #include "TestEnvironment.h"
 
@@ -124,6 +126,22 @@ private Q_SLOTS:
                                 environment(server.url(QStringLiteral("/nag/main.qml")), timeoutMs));
         QCOMPARE(loadAndWait(content), ContentState::Failed);
         QCOMPARE(server.requestsTo("/nag/main.qml").size(), 1);
+    }
+
+    // An address may carry what a link filled in; the log gets it masked.
+    void addressesInTheLogAreMasked()
+    {
+        Ostrel::Test::LogCapture log;
+        NagManager manager(nullptr, QStringLiteral(":/no-map.json"));
+        manager.AddNag(QStringLiteral("free"), QString(),
+                       QUrl(QStringLiteral("https://nags.example/n?email=jane.doe%40example.com")), {}, {}, 0);
+        QuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
+                             QUrl(QStringLiteral("qrc:/no/jane.doe@example.com/main.qml")), ContentEnvironment());
+        content.Load();
+        QCOMPARE(content.State(), ContentState::Failed);
+        QCOMPARE(log.matching("A nag without action").size(), size_t(1));
+        QCOMPARE(log.matching("qrc:/no/***/main.qml").size(), size_t(1));
+        QVERIFY(log.matching("jane.doe").empty());
     }
 };
 

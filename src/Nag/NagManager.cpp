@@ -1,5 +1,6 @@
 #include "Nag/NagManager.h"
 
+#include "Foundation/PersonalDataMask.h"
 #include "Interfaces/IProductSettingsManager.h"
 #include "Nag/AbstractContent.h"
 #include "Nag/ContentFactory.h"
@@ -237,7 +238,7 @@ void NagManager::AddNag(const QString& mode, const QString& action, const QUrl& 
 {
     if (action.isEmpty() || !url.isValid() || url.isEmpty()) {
         LOG(WARNING) << "A nag without action or valid address was not added: action \"" << utf8(action)
-                     << "\", address \"" << utf8(url.toString()) << "\"";
+                     << "\", address \"" << utf8(Core::PersonalDataMask::mask(url.toString())) << "\"";
         return;
     }
     NagRecord record;

@@ -1,5 +1,6 @@
 #include "Nag/QmlContent.h"
 
+#include "Foundation/PersonalDataMask.h"
 #include "Nag/DifferenceHash.h"
 #include "Nag/IActionStrategy.h"
 #include "Nag/NagCallback_p.h"
@@ -198,7 +199,9 @@ void QmlContent::followSize()
 
 void QmlContent::fail(const std::string& why)
 {
-    LOG(ERROR) << "Nag for action " << Util::QStringToUtf8(AppAction()) << " failed: " << why;
+    // The reason may quote the nag's address, which may carry what a link filled in.
+    LOG(ERROR) << "Nag for action " << Util::QStringToUtf8(AppAction())
+               << " failed: " << Core::PersonalDataMask::mask(why);
     setState(ContentState::Failed);
 }
 
@@ -266,7 +269,8 @@ void NagCallback::RequestUrl(const QString& url, const QVariantMap& params)
 {
     const auto actions = m_content.actionStrategy();
     if (!actions) {
-        LOG(WARNING) << "Nag link dropped, no action strategy is set: " << Util::QStringToUtf8(url);
+        LOG(WARNING) << "Nag link dropped, no action strategy is set: "
+                     << Util::QStringToUtf8(Core::PersonalDataMask::mask(url));
         return;
     }
     // Macros such as -TAIL_WITH_ARGS- survive tolerant parsing; the strategy expands them.
