@@ -33,6 +33,7 @@
 #include <glog/logging.h>
 
 #include <QCommandLineParser>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -206,20 +207,36 @@ int main(int argc, char** argv)
     // The start-up extensions run once, right after the start, and live for the whole run.
     ExtensionsWiring extensions(app, *lifetime);
     testing->connect(app);
+    // --quit-after is armed before the start runs: a box or dialog opened during the start waits in
+    // a loop of its own, and without a display nobody answers it. The quit answers every open modal
+    // window as Escape would (the code that asked takes its cancel path), then quits, which ends
+    // every running loop: the start returns, and the main loop is not entered at all.
+    const auto quitNow = [&]() {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (!widget->isModal() || !widget->isVisible())
+                continue;
+            if (auto* dialog = qobject_cast<QDialog*>(widget))
+                dialog->reject();
+            else
+                widget->close();
+        }
+        lifetime->tryToQuit();
+    };
     const auto startNow = [&]() {
+        if (quitAfterMs >= 0)
+            QTimer::singleShot(quitAfterMs, &app, quitNow);
         window.show();
         lifetime->start();
         nags.showAfterStart();
-        if (quitAfterMs >= 0)
-            QTimer::singleShot(quitAfterMs, &app, [&]() { lifetime->tryToQuit(); });
     };
     if (holdStartMs > 0)
         QTimer::singleShot(holdStartMs, &app, startNow);
     else
         startNow();
 
-    // 6. The event loop.
-    const int status = QApplication::exec();
+    // 6. The event loop, unless the run already ended during the start: a quit asked before the
+    //    main loop runs cannot end it, and exec() would then wait for ever.
+    const int status = lifetime->isQuitting() ? 0 : QApplication::exec();
     lifetime->UnregisterEventHandler(&trackingObserver);
 
     LOG(INFO) << "Event loop ended with status " << status;

@@ -86,6 +86,12 @@ int HostProcess::exitCode() const
     return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
 }
 
+QString HostProcess::standardOutput() const
+{
+    m_stdout += QString::fromUtf8(m_process.readAllStandardOutput());
+    return m_stdout;
+}
+
 QString HostProcess::log() const
 {
     // Standard error is read so that the pipe never fills; the file has every line of it too.

@@ -30,6 +30,8 @@ public:
     bool isRunning() const;
     int exitCode() const;
 
+    /// Everything the host printed so far on its standard output.
+    QString standardOutput() const;
     /// Everything the host logged so far to its log file, every severity.
     QString log() const;
     /// Waits, at most `timeoutMs`, until the log holds `text`.
@@ -45,4 +47,5 @@ private:
     QStringList m_environment;
     mutable QProcess m_process;
     mutable QString m_stderr;
+    mutable QString m_stdout;
 };

@@ -384,34 +384,76 @@ private Q_SLOTS:
                  qPrintable(QStringLiteral("%1 bits apart; computed %2").arg(distance).arg(hash)));
     }
 
-    void theHashReachesTheSetterWhenAsked()
+    void eachNagReportsItsOwnHash_data()
     {
+        QTest::addColumn<QByteArray>("hashLine");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("another fingerprint")
+            << QByteArray("readonly property string hash_name: \"second\"\n"
+                          "readonly property size hash_size: Qt.size(8, 4)\n")
+            << QStringLiteral("second");
+        QTest::newRow("no fingerprint") << QByteArray() << QString();
+    }
+
+    // The fingerprint is the shown nag's: a nag right after another starts without one and gets
+    // its own from its first frame, or none when it declares none.
+    void eachNagReportsItsOwnHash()
+    {
+        QFETCH(QByteArray, hashLine);
+        QFETCH(QString, expected);
         QTemporaryDir dir;
+        const QString second = dir.filePath(QStringLiteral("second.qml"));
+        QFile file(second);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("import QtQuick 2.15\nRectangle {\nwidth: 200; height: 100; color: \"#3366cc\"\n" +
+                   hashLine + "}\n");
+        file.close();
+
         NagManager manager(nullptr, writeMap(dir));
         manager.SetNagsSettings(std::make_shared<WebConfig::DefaultNagsSettings>(
-            WebConfig::WebConfigDocument::fromJson(
-                Json8()),
-            QStringLiteral("en_US")));
-        // Shows the nag for real, long enough for its first frame.
+            WebConfig::WebConfigDocument::fromJson(Json8()), QStringLiteral("en_US")));
+        manager.OverrideNagPath(QStringLiteral("second"), second);
+        const auto setter = manager.GetNagHashSetter();
+        // Shows the nag for real, long enough for its first frame, and notes whether a
+        // fingerprint was already there when the show began.
         class ShowingStrategy : public IShowStrategy
         {
         public:
+            explicit ShowingStrategy(std::shared_ptr<IManager::NagHashSetter> setter)
+                : m_setter(std::move(setter))
+            {
+            }
             int ShowNag(AbstractContent& content) override
             {
-                content.GetUi()->show();
+                setAtStart << m_setter->IsSet();
                 QSignalSpy rendered(&content, &AbstractContent::Rendered);
+                content.GetUi()->show();
                 rendered.wait();
                 content.GetUi()->hide();
                 return 1;
             }
+            QList<bool> setAtStart;
+
+        private:
+            std::shared_ptr<IManager::NagHashSetter> m_setter;
         };
-        manager.SetShowStrategy(std::make_shared<ShowingStrategy>());
-        const auto setter = manager.GetNagHashSetter();
-        QVERIFY(!setter->IsSet());
-        manager.ShowNag(QStringLiteral("app_start"));
+        const auto strategy = std::make_shared<ShowingStrategy>(setter);
+        manager.SetShowStrategy(strategy);
+
+        QCOMPARE(manager.ShowNag(QStringLiteral("app_start")), 1);
         QVERIFY(setter->IsSet());
         QCOMPARE(setter->get()->hashName, QStringLiteral("app_start_welcome"));
         QCOMPARE(setter->get()->computedHash.size(), 128);
+
+        QCOMPARE(manager.ShowNag(QStringLiteral("second")), 1);
+        QCOMPARE(strategy->setAtStart, (QList<bool>{false, false}));
+        if (expected.isEmpty()) {
+            QVERIFY(!setter->IsSet());
+        } else {
+            QVERIFY(setter->IsSet());
+            QCOMPARE(setter->get()->hashName, expected);
+            QCOMPARE(setter->get()->computedHash.size(), 32);
+        }
     }
 };
 

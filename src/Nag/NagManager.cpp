@@ -61,7 +61,8 @@ public:
     std::shared_ptr<IShowStrategy> showStrategy;
     std::shared_ptr<IActionStrategy> actionStrategy;
     std::shared_ptr<NagHashSetter> hashSetter = std::make_shared<NagHashSetter>();
-    // The setter holds the hash weakly; the last one lives here until the next nag replaces it.
+    // The setter holds the hash weakly: the shown nag's lives here, and dropping it when the next
+    // show starts clears the setter, so that nobody reads a previous nag's fingerprint as its own.
     std::shared_ptr<NagHash> lastHash;
     QObject context; // receiver of the manager's own timers, gone with the manager
 
@@ -166,7 +167,6 @@ public:
         hash->hashSize = content.HashSize();
         hash->internalHash = content.DeclaredHash();
         hash->computedHash = content.ComputedHash();
-        const auto previous = lastHash;
         lastHash = hash;
         hashSetter->set(hash);
     }
@@ -300,6 +300,7 @@ int NagManager::ShowNag(const QString& action)
 {
     // Held for the whole call: a strategy or a nag may replace the manager's fields meanwhile.
     const auto self = d;
+    self->lastHash.reset();
     const auto strategy = self->showStrategy;
     if (!strategy) {
         LOG(ERROR) << "No show strategy is set; the nag of " << utf8(action) << " is not shown";
@@ -331,10 +332,15 @@ int NagManager::ShowNag(const QString& action)
         return -1;
     }
     const std::weak_ptr<Impl> weak = self;
-    QObject::connect(content.get(), &AbstractContent::Rendered, content.get(), [weak, raw = content.get()]() {
-        if (const auto alive = weak.lock())
-            alive->storeHash(*raw);
-    });
+    // The fingerprint is the first frame's: later frames (an animation, a hover) are not what the
+    // nag was published as.
+    const auto firstFrame = std::make_shared<QMetaObject::Connection>();
+    *firstFrame = QObject::connect(content.get(), &AbstractContent::Rendered, content.get(),
+                                   [weak, raw = content.get(), firstFrame]() {
+                                       QObject::disconnect(*firstFrame);
+                                       if (const auto alive = weak.lock())
+                                           alive->storeHash(*raw);
+                                   });
     LOG(INFO) << "Showing the nag " << utf8(content->Id()) << " for " << utf8(action);
     const int code = strategy->ShowNag(*content);
     LOG(INFO) << "The nag of " << utf8(action) << " ended with " << code;

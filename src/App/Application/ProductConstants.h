@@ -20,6 +20,8 @@ inline constexpr char ParentProductId[] = "ParentProductId";
 inline constexpr char Path[] = "Path";
 inline constexpr char AutoUpdate[] = "autoUpdate";
 inline constexpr char SkipThisUpdate[] = "SkipThisUpdate";
+inline constexpr char SkipThisMajorUpdate[] = "SkipThisMajorUpdate";
+inline constexpr char SuAutomaticallyUpdate[] = "SUAutomaticallyUpdate";
 inline constexpr char VersionByInstaller[] = "VersionByInstaller";
 inline constexpr char VendorProductModel[] = "VendorProductModel";
 inline constexpr char DateOfFirstStart[] = "DateOfFirstStart";
@@ -39,6 +41,8 @@ inline constexpr char IsRegUser[] = "IsRegUser";
 inline constexpr char IsConfirmed[] = "isConfirmed";
 inline constexpr char UserEmail[] = "UserEmail";
 inline constexpr char UserName[] = "UserName";
+inline constexpr char IsEmailCollected[] = "isEmailCollected";
+inline constexpr char IsNpsInfoCollected[] = "isNPSInfoCollected";
 
 /// The customization file beside the executable.
 inline constexpr char CustomizationFileName[] = "CaptureDeskCustom.ini";

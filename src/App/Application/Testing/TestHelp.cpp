@@ -5,6 +5,8 @@
 
 #include <QCommandLineParser>
 
+#include <cstdio>
+
 namespace Ostrel::App {
 
 namespace {
@@ -30,8 +32,13 @@ void TestHelp::run(const QCommandLineParser& parser)
 {
     if (!parser.isSet(helpOption()))
         return;
-    Util::AlertBox box(Util::AlertBox::Information, QString(), helpText(m_testing->getCommandLineArguments()),
-                       QMessageBox::Ok, nullptr, Qt::WindowFlags(0x103));
+    const QString text = helpText(m_testing->getCommandLineArguments());
+    // Also on standard output: the table is readable from a console, a script or a machine
+    // without a display, where nobody sees the box.
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+    std::fflush(stdout);
+    Util::AlertBox box(Util::AlertBox::Information, QString(), text, QMessageBox::Ok, nullptr,
+                       Qt::WindowFlags(0x103));
     box.Exec();
 }
 

@@ -1,5 +1,6 @@
 #include "App/Application/Extensions/ApplicationRegistryUpdater/ApplicationRegistryUpdater.h"
 
+#include "App/Application/ProductConstants.h"
 #include "Events/NotNull.h"
 #include "Interfaces/IProductSettingsManager.h"
 #include "QtUtil/Utf8.h"
@@ -31,7 +32,7 @@ void ApplicationRegistryUpdater::onStart()
 {
     // applicationDirPath never ends in a separator (the root aside, which no program lies in).
     const QString path = QDir::toNativeSeparators(QCoreApplication::applicationDirPath()) + QDir::separator();
-    d->productSettingsManager->SetString("Path", Util::QStringToUtf8(path));
+    d->productSettingsManager->SetString(ProductConstants::Path, Util::QStringToUtf8(path));
 }
 
 } // namespace Ostrel::App

@@ -1,5 +1,6 @@
 #include "App/Application/Extensions/AutoUpdateRequester/AutoUpdateRequester.h"
 
+#include "App/Application/ProductConstants.h"
 #include "Events/NotNull.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IProductSettingsManager.h"
@@ -40,7 +41,7 @@ AutoUpdateRequester::~AutoUpdateRequester() = default;
 
 void AutoUpdateRequester::onStart()
 {
-    if (!d->productSettingsManager->GetBool("autoUpdate", kAutoUpdateDefault))
+    if (!d->productSettingsManager->GetBool(ProductConstants::AutoUpdate, kAutoUpdateDefault))
         return;
     Impl* impl = d.get();
     QTimer::singleShot(d->requestDelay, &d->timerContext, [impl]() {

@@ -1,5 +1,6 @@
 #include "App/Application/Extensions/EmailCollector/EmailCollector.h"
 
+#include "App/Application/ProductConstants.h"
 #include "Email/EmailDialogCreator.h"
 #include "Email/EmailSender.h"
 #include "Events/NotNull.h"
@@ -91,12 +92,13 @@ void EmailCollector::onStart()
 bool EmailCollector::needCollectEmail() const
 {
     return d->launchTypeProcessor->GetLaunchType() == kCollectingLaunchType &&
-           d->customizationManager->IsEmailCollectionEnabled() && !isSet(*d->mailSettingsManager, "IsRegUser");
+           d->customizationManager->IsEmailCollectionEnabled() &&
+           !isSet(*d->mailSettingsManager, ProductConstants::IsRegUser);
 }
 
 bool EmailCollector::needSendEmail() const
 {
-    return isSet(*d->mailSettingsManager, "isConfirmed");
+    return isSet(*d->mailSettingsManager, ProductConstants::IsConfirmed);
 }
 
 void EmailCollector::showEmailDialog() const

@@ -1,5 +1,6 @@
 #include "App/Application/Extensions/InstallerUpdater/InstallerUpdater.h"
 
+#include "App/Application/ProductConstants.h"
 #include "Events/NotNull.h"
 #include "Foundation/SystemInfo.h"
 #include "Interfaces/IProductSettingsManager.h"
@@ -27,7 +28,8 @@ InstallerUpdater::~InstallerUpdater() = default;
 
 void InstallerUpdater::onStart()
 {
-    d->productSettingsManager->SetString("ArchitectBits", "x" + std::to_string(Core::AppBits()));
+    d->productSettingsManager->SetString(ProductConstants::ArchitectBits,
+                                         "x" + std::to_string(Core::AppBits()));
 }
 
 } // namespace Ostrel::App

@@ -1,5 +1,6 @@
 #include "App/Application/Extensions/Tyfi/Tyfi.h"
 
+#include "App/Application/ProductConstants.h"
 #include "Events/NotNull.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IGateway.h"
@@ -47,7 +48,7 @@ public:
             return customNeedOpenChecker();
         return launchTypeProcessor->GetLaunchType() != kBackgroundLaunchType &&
                !customizationManager->GetPageType().empty() &&
-               productSettingsManager->GetString("BUNDLE_NAME", std::string()).empty();
+               productSettingsManager->GetString(ProductConstants::BundleName, std::string()).empty();
     }
 
     void openPage() const
