@@ -33,10 +33,10 @@
 #include <glog/logging.h>
 
 #include <QCommandLineParser>
-#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 #include <QStandardPaths>
@@ -207,20 +207,23 @@ int main(int argc, char** argv)
     // The start-up extensions run once, right after the start, and live for the whole run.
     ExtensionsWiring extensions(app, *lifetime);
     testing->connect(app);
-    // --quit-after is armed before the start runs: a box or dialog opened during the start waits in
-    // a loop of its own, and without a display nobody answers it. The quit answers every open modal
-    // window as Escape would (the code that asked takes its cancel path), then quits, which ends
-    // every running loop: the start returns, and the main loop is not entered at all.
+    // --quit-after is armed before the start runs: a box opened during the start waits in a loop of
+    // its own, and without a display nobody answers it. If the time comes while the start is still
+    // running, open message boxes are answered as Escape would (the code that asked takes its cancel
+    // path) and the quit waits for the start to return, since the test harness's walks run inside
+    // it and their nag dialogs must not be cut short.
+    bool startReturned = false;
+    bool quitDue = false;
     const auto quitNow = [&]() {
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            if (!widget->isModal() || !widget->isVisible())
-                continue;
-            if (auto* dialog = qobject_cast<QDialog*>(widget))
-                dialog->reject();
-            else
-                widget->close();
+        if (startReturned) {
+            lifetime->tryToQuit();
+            return;
         }
-        lifetime->tryToQuit();
+        quitDue = true;
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (auto* box = qobject_cast<QMessageBox*>(widget); box && box->isVisible())
+                box->reject();
+        }
     };
     const auto startNow = [&]() {
         if (quitAfterMs >= 0)
@@ -228,15 +231,17 @@ int main(int argc, char** argv)
         window.show();
         lifetime->start();
         nags.showAfterStart();
+        startReturned = true;
+        if (quitDue)
+            QTimer::singleShot(0, &app, quitNow);
     };
     if (holdStartMs > 0)
         QTimer::singleShot(holdStartMs, &app, startNow);
     else
         startNow();
 
-    // 6. The event loop, unless the run already ended during the start: a quit asked before the
-    //    main loop runs cannot end it, and exec() would then wait for ever.
-    const int status = lifetime->isQuitting() ? 0 : QApplication::exec();
+    // 6. The event loop.
+    const int status = QApplication::exec();
     lifetime->UnregisterEventHandler(&trackingObserver);
 
     LOG(INFO) << "Event loop ended with status " << status;
