@@ -21,11 +21,11 @@ void addHelpMenu(QMenuBar& menuBar, Application& application)
         QObject::connect(action, &QAction::triggered, menu,
                          [&application, key]() { application.GetLinksManager()->OpenUrl(key); });
     };
-    add("&Help Center", HELP_URL_menu);
-    add("&Frequently Asked Questions", FAQ_URL_menu);
-    add("&Contact Support", CONTACT_SUPPORT_URL_menu);
+    add(QT_TRANSLATE_NOOP("HelpMenu", "&Help Center"), HELP_URL_menu);
+    add(QT_TRANSLATE_NOOP("HelpMenu", "&Frequently Asked Questions"), FAQ_URL_menu);
+    add(QT_TRANSLATE_NOOP("HelpMenu", "&Contact Support"), CONTACT_SUPPORT_URL_menu);
     menu->addSeparator();
-    add("Community &Forum", FORUM_URL_menu);
-    add("&Home Page", HOMEPAGE_URL_menu);
-    add("&Privacy Policy", PRIVACY_POLICY_URL);
+    add(QT_TRANSLATE_NOOP("HelpMenu", "Community &Forum"), FORUM_URL_menu);
+    add(QT_TRANSLATE_NOOP("HelpMenu", "&Home Page"), HOMEPAGE_URL_menu);
+    add(QT_TRANSLATE_NOOP("HelpMenu", "&Privacy Policy"), PRIVACY_POLICY_URL);
 }

@@ -1,5 +1,6 @@
 #include "HostSplash.h"
 
+#include <QCoreApplication>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QSplashScreen>
@@ -23,7 +24,8 @@ QPixmap splashPicture(const QString& title)
     font.setPointSize(10);
     font.setBold(false);
     painter.setFont(font);
-    painter.drawText(picture.rect().adjusted(0, 60, 0, 0), Qt::AlignCenter, QStringLiteral("Starting…"));
+    painter.drawText(picture.rect().adjusted(0, 60, 0, 0), Qt::AlignCenter,
+                     QCoreApplication::translate("HostSplash", "Starting…"));
     return picture;
 }
 

@@ -18,10 +18,28 @@
 
 using namespace Ostrel::App;
 
+struct MainWindow::Impl
+{
+    QLabel* version = nullptr;
+    QLabel* organization = nullptr;
+    QLabel* partner = nullptr;
+    QLabel* launchType = nullptr;
+    QLabel* launchTypeValue = nullptr;
+    bool launchTypeKnown = false;
+    QLabel* days = nullptr;
+    QLabel* brand = nullptr;
+    QMenu* fileMenu = nullptr;
+    QAction* restart = nullptr;
+    QAction* quit = nullptr;
+    QString ready;
+};
+
 MainWindow::MainWindow(Application& application, QWidget* parent)
     : QMainWindow(parent)
+    , m_impl(std::make_unique<Impl>())
     , m_application(application)
 {
+    Impl& d = *m_impl;
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QCoreApplication::applicationName());
     resize(720, 460);
@@ -34,8 +52,8 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
     font.setPointSize(font.pointSize() * 2);
     title->setFont(font);
     layout->addWidget(title, 0, Qt::AlignHCenter);
-    auto* version = new QLabel(tr("Version %1").arg(QCoreApplication::applicationVersion()), central);
-    layout->addWidget(version, 0, Qt::AlignHCenter);
+    d.version = new QLabel(central);
+    layout->addWidget(d.version, 0, Qt::AlignHCenter);
     layout->addSpacing(16);
 
     // What the shell knows about this run, as a product's "About" page would show it.
@@ -44,34 +62,70 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
     const auto customization = m_application.GetCustomizationManager();
     const auto product = m_application.GetProductSettingsManager();
     const auto launchType = m_application.GetLaunchTypeProcessor();
-    const auto addFact = [&](const QString& label, const QString& value) {
+    const auto addFact = [&](QLabel*& label, const QString& value) {
+        label = new QLabel(central);
         auto* field = new QLabel(value, central);
         field->setTextInteractionFlags(Qt::TextSelectableByMouse);
         facts->addRow(label, field);
+        return field;
     };
-    addFact(tr("Organization:"), QCoreApplication::organizationName());
-    addFact(tr("Partner:"), product ? QString::fromStdString(product->GetString("PartnerName", std::string())) : QString());
-    addFact(tr("Launch type:"), launchType ? QString::number(launchType->GetLaunchType()) : tr("unknown"));
-    addFact(tr("Days since first start:"), QString::number(m_application.GetDaysPassed()));
-    addFact(tr("Brand:"), customization ? QString::fromStdString(customization->GetBrand()) : QString());
+    addFact(d.organization, QCoreApplication::organizationName());
+    addFact(d.partner,
+            product ? QString::fromStdString(product->GetString("PartnerName", std::string())) : QString());
+    d.launchTypeKnown = launchType != nullptr;
+    d.launchTypeValue =
+        addFact(d.launchType, launchType ? QString::number(launchType->GetLaunchType()) : QString());
+    addFact(d.days, QString::number(m_application.GetDaysPassed()));
+    addFact(d.brand, customization ? QString::fromStdString(customization->GetBrand()) : QString());
     layout->addLayout(facts);
     layout->addStretch();
     setCentralWidget(central);
 
-    QMenu* fileMenu = menuBar()->addMenu(tr("&File"));
-    QAction* restart = fileMenu->addAction(tr("&Restart"));
+    d.fileMenu = menuBar()->addMenu(QString());
+    QAction* restart = d.restart = d.fileMenu->addAction(QString());
     restart->setObjectName(QStringLiteral("restartAction"));
     connect(restart, &QAction::triggered, this, [this]() {
         m_application.get<ILifetimeManager>()->tryToRestart(Interactive, std::string(), std::string());
     });
-    QAction* quit = fileMenu->addAction(tr("&Quit"));
+    QAction* quit = d.quit = d.fileMenu->addAction(QString());
     quit->setObjectName(QStringLiteral("quitAction"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, [this]() { m_application.get<ILifetimeManager>()->tryToQuit(); });
 
-    statusBar()->showMessage(tr("Ready"));
+    retranslate();
+    statusBar()->showMessage(d.ready);
 
     // Language and Theme menus, the stylesheet and the remembered answers.
     new LookAndFeelWiring(m_application, *this);
     addHelpMenu(*menuBar(), m_application);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::retranslate()
+{
+    Impl& d = *m_impl;
+    d.version->setText(tr("Version %1").arg(QCoreApplication::applicationVersion()));
+    d.organization->setText(tr("Organization:"));
+    d.partner->setText(tr("Partner:"));
+    d.launchType->setText(tr("Launch type:"));
+    if (!d.launchTypeKnown)
+        d.launchTypeValue->setText(tr("unknown"));
+    d.days->setText(tr("Days since first start:"));
+    d.brand->setText(tr("Brand:"));
+    d.fileMenu->setTitle(tr("&File"));
+    d.restart->setText(tr("&Restart"));
+    d.quit->setText(tr("&Quit"));
+    // Only the greeting follows the language; a message shown meanwhile stays as it is.
+    const bool greeting = !d.ready.isEmpty() && statusBar()->currentMessage() == d.ready;
+    d.ready = tr("Ready");
+    if (greeting)
+        statusBar()->showMessage(d.ready);
 }

@@ -2,6 +2,8 @@
 
 #include <QMainWindow>
 
+#include <memory>
+
 namespace Ostrel::App {
 class Application;
 }
@@ -12,7 +14,17 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 public:
     explicit MainWindow(Ostrel::App::Application& application, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+protected:
+    /// The window is built before the stored locale is loaded, and the locale may change later:
+    /// its texts are set again whenever the translators change.
+    void changeEvent(QEvent* event) override;
 
 private:
+    void retranslate();
+
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
     Ostrel::App::Application& m_application;
 };

@@ -11,6 +11,7 @@ packages=(
   libboost-dev libgoogle-glog-dev libbenchmark-dev
   xvfb xauth
   fonts-dejavu-core fonts-dejavu-extra
+  fonts-noto-cjk  # Japanese, Korean, simplified and traditional Chinese: without it those locales draw boxes
   clang-14 libclang-rt-14-dev
   g++-mingw-w64-x86-64-posix
   locales tzdata

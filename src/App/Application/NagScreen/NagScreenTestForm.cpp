@@ -111,16 +111,16 @@ NagScreenTestForm::NagScreenTestForm(const Core::NotNull<std::shared_ptr<IManage
     : QWidget(parent)
     , d(std::make_unique<Impl>(manager))
 {
-    setWindowTitle(QStringLiteral("Nag Screen Tester"));
+    setWindowTitle(tr("Nag Screen Tester"));
 
     d->comboBox = new QComboBox(this);
     d->comboBox->setObjectName(QStringLiteral("chooseNag_comboBox"));
     d->comboBox->setIconSize(QSize(14, 14));
-    d->showButton = new QPushButton(QStringLiteral("Show Nag"), this);
+    d->showButton = new QPushButton(tr("Show Nag"), this);
     d->showButton->setObjectName(QStringLiteral("showNag_button"));
-    d->customPathButton = new QPushButton(QStringLiteral("Set Path To Nag"), this);
+    d->customPathButton = new QPushButton(tr("Set Path To Nag"), this);
     d->customPathButton->setObjectName(QStringLiteral("chooseCustomPath_button"));
-    d->reloadButton = new QPushButton(QStringLiteral("Reload All"), this);
+    d->reloadButton = new QPushButton(tr("Reload All"), this);
     d->reloadButton->setObjectName(QStringLiteral("reloadAllNags_button"));
 
     d->stateLabel = new QLabel(this);
@@ -134,7 +134,7 @@ NagScreenTestForm::NagScreenTestForm(const Core::NotNull<std::shared_ptr<IManage
     d->progressBar->hide();
     d->progressBar->setTextVisible(true);
     d->progressBar->setAlignment(Qt::AlignCenter);
-    d->progressBar->setFormat(QStringLiteral("Reloading: %v/%m"));
+    d->progressBar->setFormat(tr("Reloading: %v/%m"));
     d->progressBar->setStyleSheet(QStringLiteral(
         "QProgressBar { font-size: 12px; min-height: 23px; max-height: 23px; background: #0f0f0f; color: #f5f5f5; "
         "border-radius: 4px; } QProgressBar::chunk { background-color: #415bdc; border-radius: 4px; }"));
@@ -143,8 +143,8 @@ NagScreenTestForm::NagScreenTestForm(const Core::NotNull<std::shared_ptr<IManage
     d->hashLabel->setObjectName(QStringLiteral("hash_label"));
     d->hashLabel->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     d->hashLabel->setStyleSheet(QStringLiteral("color:black;"));
-    d->hashLabel->setText(QStringLiteral("The hash will appear after opening the nag and if SendNagHashEvent is enabled "
-                                         "in the webconfig and hashName is specified in the nag"));
+    d->hashLabel->setText(tr("The hash will appear after opening the nag and if SendNagHashEvent is enabled "
+                             "in the webconfig and hashName is specified in the nag"));
 
     auto* layout = new QVBoxLayout(this);
     auto* chooseRow = new QHBoxLayout;
@@ -237,9 +237,9 @@ void NagScreenTestForm::showNag()
 {
     const QString action = d->currentAction;
     if (d->manager->IsNagDisabled(action)) {
-        QMessageBox::warning(this, QStringLiteral("Nag Override Warning"),
-                             QStringLiteral("<b>Note:</b> Nag action \"%1\" is currently <b>disabled</b>. Nag will not "
-                                            "be displayed.")
+        QMessageBox::warning(this, tr("Nag Override Warning"),
+                             tr("<b>Note:</b> Nag action \"%1\" is currently <b>disabled</b>. Nag will not "
+                                "be displayed.")
                                  .arg(action),
                              QMessageBox::Ok);
         return;
@@ -248,9 +248,9 @@ void NagScreenTestForm::showNag()
     if (override != d->overrides.cend()) {
         d->manager->OverrideNagPath(action, *override);
         if (!d->manager->IsNagAvailable(action)) {
-            QMessageBox::critical(this, QStringLiteral("Nag Override Error"),
-                                  QStringLiteral("<b>Error:</b> Looks like nag is broken somehow, see logs for "
-                                                 "details.<br><br>Nag action: %1<br>File:<br><nobr>\"%2\"</nobr>")
+            QMessageBox::critical(this, tr("Nag Override Error"),
+                                  tr("<b>Error:</b> Looks like nag is broken somehow, see logs for "
+                                     "details.<br><br>Nag action: %1<br>File:<br><nobr>\"%2\"</nobr>")
                                       .arg(action, QDir::toNativeSeparators(*override)));
             return;
         }
@@ -271,15 +271,15 @@ void NagScreenTestForm::chooseCustomPath()
 {
     const QString action = d->currentAction;
     if (action == AppAction::OpenNag()) {
-        QMessageBox::warning(this, QStringLiteral("Nag Override Warning"),
-                             QStringLiteral("Overriding of %1 is not implemented for now, please choose another nag "
-                                            "and try again.")
+        QMessageBox::warning(this, tr("Nag Override Warning"),
+                             tr("Overriding of %1 is not implemented for now, please choose another nag "
+                                "and try again.")
                                  .arg(action));
         return;
     }
-    const QString file = QFileDialog::getOpenFileName(
-        this, QStringLiteral("Choose main.qml file"), d->lastPath,
-        QStringLiteral("main.qml file (main.qml);;Any QML file (*.qml);;Any file (*)"));
+    const QString file =
+        QFileDialog::getOpenFileName(this, tr("Choose main.qml file"), d->lastPath,
+                                     tr("main.qml file (main.qml);;Any QML file (*.qml);;Any file (*)"));
     if (file.isEmpty())
         return;
     d->lastPath = QFileInfo(file).absolutePath();
@@ -341,9 +341,9 @@ void NagScreenTestForm::updateCurrentActionStateLabel()
     const QString& action = d->currentAction;
     QString text;
     if (!d->manager->IsNagAvailable(action))
-        text = QStringLiteral("<b style=\"color: #d95963;\">Unavailable</b> ");
+        text = tr("<b style=\"color: #d95963;\">Unavailable</b> ");
     const auto override = d->overrides.constFind(action);
-    text += override != d->overrides.cend() ? QDir::toNativeSeparators(*override) : QStringLiteral("static or web nag");
+    text += override != d->overrides.cend() ? QDir::toNativeSeparators(*override) : tr("static or web nag");
     d->stateLabel->setText(text);
 }
 
@@ -361,7 +361,7 @@ void NagScreenTestForm::updateLabel(const IManager::NagHash& hash)
     QString internal = hash.internalHash;
     QString computed = hash.computedHash;
     const bool comparable = !internal.isEmpty() && !computed.isEmpty();
-    QString distanceText = QStringLiteral("some hash is empty, it is impossible to calculate the distance");
+    QString distanceText = tr("some hash is empty, it is impossible to calculate the distance");
     QString percentText = distanceText;
     if (comparable) {
         QString markedInternal;
@@ -388,13 +388,14 @@ void NagScreenTestForm::updateLabel(const IManager::NagHash& hash)
         percentText = QString::number(distance * 100.0 / hash.computedHash.size(), 'g', 6) + QLatin1Char('%');
     }
     const bool sized = hash.hashSize.isValid();
-    const QString noSize = QStringLiteral("hashSize is not specified in the nag");
+    const QString noSize = tr("hashSize is not specified in the nag");
     const QString text =
-        QStringLiteral("<table><tr><td>hashName:</td>      <td>%1</td></tr><tr><td>hashWidth:</td>      <td>%2</td></tr>"
-                       "<tr><td>hashHeight:</td>     <td>%3</td></tr><tr><td>inNagHash:</td>      <td>%4</td></tr>"
-                       "<tr><td>computedNagHash:</td><td>%5</td></tr><tr><td>distance:</td>       <td>%6</td></tr>"
-                       "<tr><td>distance (%):</td>   <td>%7</td></tr></table>")
-            .arg(hash.hashName.isEmpty() ? QStringLiteral("add hashName to nag to calculate hash") : hash.hashName,
+        QStringLiteral(
+            "<table><tr><td>hashName:</td>      <td>%1</td></tr><tr><td>hashWidth:</td>      <td>%2</td></tr>"
+            "<tr><td>hashHeight:</td>     <td>%3</td></tr><tr><td>inNagHash:</td>      <td>%4</td></tr>"
+            "<tr><td>computedNagHash:</td><td>%5</td></tr><tr><td>distance:</td>       <td>%6</td></tr>"
+            "<tr><td>distance (%):</td>   <td>%7</td></tr></table>")
+            .arg(hash.hashName.isEmpty() ? tr("add hashName to nag to calculate hash") : hash.hashName,
                  sized ? QString::number(hash.hashSize.width()) : noSize,
                  sized ? QString::number(hash.hashSize.height()) : noSize, internal, computed, distanceText,
                  percentText);

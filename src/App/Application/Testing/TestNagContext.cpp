@@ -8,6 +8,7 @@
 
 #include <glog/logging.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTime>
 
@@ -27,7 +28,8 @@ void StorePixmap(const QPixmap& pixmap, const QString& folder, const QString& na
     }
     LOG(ERROR) << "Can't open picture file " << Util::QStringToUtf8(fileName);
     // Built, not shown: the report of the exception is what the user gets to see.
-    Util::AlertBox box(Util::AlertBox::Question, QString(), QStringLiteral("Access error. Can't open picture file"),
+    Util::AlertBox box(Util::AlertBox::Question, QString(),
+                       QCoreApplication::translate("TestNagContext", "Access error. Can't open picture file"),
                        QMessageBox::Ok, nullptr, Qt::WindowFlags(0x103));
     throw boost::enable_error_info(std::logic_error("Can't open picture file"))
         << boost::throw_function(BOOST_CURRENT_FUNCTION)

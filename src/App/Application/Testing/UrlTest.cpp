@@ -12,6 +12,7 @@
 #include <glog/logging.h>
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -105,9 +106,10 @@ void UrlTest::Impl::testUrls(const QString& path, const std::list<std::string>& 
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         LOG(ERROR) << "Can't open file to dump: " << Util::QStringToUtf8(path);
-        Util::AlertBox box(Util::AlertBox::Question, QStringLiteral("Config test error"),
-                           QStringLiteral("Can't open file to dump: ") + path, QMessageBox::Ok, nullptr,
-                           Qt::WindowFlags(0x103));
+        Util::AlertBox box(Util::AlertBox::Question,
+                           QCoreApplication::translate("UrlTest", "Config test error"),
+                           QCoreApplication::translate("UrlTest", "Can't open file to dump: ") + path,
+                           QMessageBox::Ok, nullptr, Qt::WindowFlags(0x103));
         box.Exec();
         return;
     }
