@@ -12,8 +12,9 @@ work=${WORK_DIR:-$(mktemp -d)}
 multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH 2>/dev/null || gcc -print-multiarch)
 
 BUILD_DIR="$build" PACKAGE_DIR="$work/packages" "$root/scripts/package.sh"
-rm -rf "$work/root" "$work/product"
-for deb in "$work"/packages/*.deb; do dpkg -x "$deb" "$work/root"; done
+rm -rf "$work/root" "$work/product" "$work/product-src"
+# A product needs the libraries and the development package; the host's package joins later.
+for deb in "$work"/packages/libostrel*.deb; do dpkg -x "$deb" "$work/root"; done
 prefix=$work/root/usr
 libs=$prefix/lib/$multiarch
 
@@ -37,6 +38,7 @@ if [ -n "$unresolved" ]; then
 fi
 timeout 60 "$work/product/minimal-product" --show-nag --quit-after=3000
 echo "example: minimal-product built and ran against $prefix"
+dpkg -x "$work"/packages/ostrel-host_*.deb "$work/root"
 # Launch type 4: nobody in front of the program, so no page opens and nothing asks.
 timeout 60 "$prefix/bin/ostrel-host" --quit-after=1500 --no-start-nag --launch-type=4 >/dev/null
 echo "example: ostrel-host ran from $prefix"
