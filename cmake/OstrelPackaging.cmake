@@ -15,7 +15,6 @@ set(CPACK_PACKAGE_NAME ostrel)
 set(CPACK_PACKAGE_VENDOR "Ostrel")
 set(CPACK_PACKAGE_CONTACT "Ostrel application shell team <shell@ostrel.com>")
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Ostrel application shell")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -31,22 +30,28 @@ set(exact_version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
-    "Ostrel application shell: shared libraries\n The shell owns QApplication and everything a product's windows share: the\n registry of services, the lifetime of the process, themes and locales, links,\n nag screens, touch gestures and the built-in test options.")
+# A description's first line is the package's summary.
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "Ostrel application shell (shared libraries)
+The shell owns QApplication and everything a product's windows share: the
+registry of services, the lifetime of the process, themes and locales, links,
+nag screens, touch gestures and the built-in test options.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "qml-module-qtquick2")
 
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
-    "Ostrel application shell: development files\n Headers and the CMake package (find_package(Ostrel), targets Ostrel::App and\n its siblings), with the shell's translations and sample themes for a\n product's own resource tree.")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "Ostrel application shell (development files)
+Headers and the CMake package (find_package(Ostrel), targets Ostrel::App and
+its siblings), with the shell's translations and sample themes for a
+product's own resource tree.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libostrel-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 # What the CMake package's find_dependency calls and the headers need.
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${runtime_package} (= ${exact_version}), qtbase5-dev, qtdeclarative5-dev, libboost-dev, libgoogle-glog-dev, cmake")
 
-set(CPACK_COMPONENT_HOST_DESCRIPTION
-    "Ostrel application shell: sample host\n ostrel-host shows a product team how to wire the shell, with its themes and\n translations; its main job walks every sample nag in every locale.")
+set(CPACK_DEBIAN_HOST_DESCRIPTION "Ostrel application shell (sample host)
+ostrel-host shows a product team how to wire the shell, with its themes and
+translations; its main job walks every sample nag in every locale.")
 set(CPACK_DEBIAN_HOST_PACKAGE_NAME ostrel-host)
 set(CPACK_DEBIAN_HOST_PACKAGE_SECTION x11)
 set(CPACK_DEBIAN_HOST_PACKAGE_DEPENDS "${runtime_package} (= ${exact_version})")
