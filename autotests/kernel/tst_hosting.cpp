@@ -6,11 +6,7 @@
 #include "App/Application/LifetimeManager.h"
 #include "App/Application/NagScreen/NagScreenEventHandler.h"
 #include "App/Application/NagScreen/WebNagUrlGenerator.h"
-#include "Interfaces/ICustomizationManager.h"
-#include "Interfaces/IHardwareInfo.h"
-#include "Interfaces/ILaunchTypeProcessor.h"
 #include "Interfaces/ILinksManager.h"
-#include "Interfaces/ILookAndFeelManager.h"
 #include "Nag/IManager.h"
 
 #include "FakeCustomization.h"
@@ -21,9 +17,9 @@
 #include "MemorySettings.h"
 #include "TestEnvironment.h"
 
+#include <algorithm>
 #include <functional>
 #include <stdexcept>
-#include <utility>
 #include <vector>
 
 using namespace Ostrel;
@@ -42,42 +38,54 @@ Application& app()
     return *static_cast<Application*>(QCoreApplication::instance());
 }
 
-// Each setter puts a fresh component of one kind into the context, as a product would; listed in
-// the order the product's documentation gives.
-using Setter = std::function<void()>;
-const std::vector<std::pair<QString, Setter>>& setters()
+// One component a product sets: `set(true)` puts a fresh one into the context, `set(false)` a null.
+struct Component
 {
-    static const std::vector<std::pair<QString, Setter>> all{
-        {QStringLiteral("customization"),
-         [] { app().SetCustomizationManager(std::make_shared<Test::FakeCustomization>()); }},
-        {QStringLiteral("hardware"),
-         [] { app().set<IHardwareInfo>(std::make_shared<Test::FakeHardware>()); }},
-        {QStringLiteral("lookandfeel"),
-         [] { app().SetLookAndFeel(std::make_shared<Test::FakeLookAndFeel>()); }},
-        {QStringLiteral("mail"),
-         [] { app().set<IMailSettingsManager>(std::make_shared<Test::MemoryMailSettings>()); }},
-        {QStringLiteral("product"),
-         [] { app().set<IProductSettingsManager>(std::make_shared<Test::MemoryProductSettings>()); }},
-        {QStringLiteral("user"),
-         [] { app().set<IUserSettingsManager>(std::make_shared<Test::MemoryUserSettings>()); }},
-        {QStringLiteral("launchtype"),
-         [] { app().SetLaunchTypeProcessor(std::make_shared<Test::FakeLaunchType>()); }},
+    QString key;
+    std::function<void(bool)> set;
+};
+
+template <class T, class Fake> Component component(const char* key)
+{
+    return {QString::fromLatin1(key),
+            [](bool present) { app().set<T>(present ? std::make_shared<Fake>() : nullptr); }};
+}
+
+// In the order the product's documentation gives; the last two are never set here.
+const std::vector<Component>& components()
+{
+    static const std::vector<Component> all{
+        component<ICustomizationManager, Test::FakeCustomization>("customization"),
+        component<IProductSettingsManager, Test::MemoryProductSettings>("product"),
+        component<IMailSettingsManager, Test::MemoryMailSettings>("mail"),
+        component<IUserSettingsManager, Test::MemoryUserSettings>("user"),
+        component<IHardwareInfo, Test::FakeHardware>("hardware"),
+        component<ILaunchTypeProcessor, Test::FakeLaunchType>("launchtype"),
+        component<ILookAndFeelManager, Test::FakeLookAndFeel>("lookandfeel"),
+        {QStringLiteral("links"), [](bool) { app().SetLinksManager(nullptr); }},
+        {QStringLiteral("nags"), [](bool) { app().SetNagScreenManager(nullptr); }},
     };
     return all;
 }
 
-// A context with none of the product's components, as right after the application's construction.
-void clearProductComponents()
+// Empties the context, then sets the components of `order` in that order.
+void setComponents(const QStringList& order)
 {
-    app().SetCustomizationManager(nullptr);
-    app().set<IHardwareInfo>(nullptr);
-    app().SetLookAndFeel(nullptr);
-    app().set<IMailSettingsManager>(nullptr);
-    app().set<IProductSettingsManager>(nullptr);
-    app().set<IUserSettingsManager>(nullptr);
-    app().SetLaunchTypeProcessor(nullptr);
-    app().SetLinksManager(nullptr);
-    app().SetNagScreenManager(nullptr);
+    for (const Component& each : components())
+        each.set(false);
+    for (const QString& key : order)
+        std::find_if(components().begin(), components().end(), [&](const Component& c) {
+            return c.key == key;
+        })->set(true);
+}
+
+QStringList allBut(const QString& forgotten)
+{
+    QStringList keys;
+    for (const Component& each : components())
+        keys += each.key;
+    keys.removeAll(forgotten);
+    return keys;
 }
 
 } // namespace
@@ -94,35 +102,21 @@ private Q_SLOTS:
         QTest::addColumn<QString>("builder");
         QTest::addColumn<QString>("forgotten");
         QTest::addColumn<QString>("named");
-
-        const QString links = QStringLiteral("links manager");
-        QTest::newRow("links manager, no customization") << links << "customization"
-                                                         << "Ostrel::App::ICustomizationManager";
-        QTest::newRow("links manager, no hardware info") << links << "hardware"
-                                                         << "Ostrel::App::IHardwareInfo";
-        QTest::newRow("links manager, no look and feel") << links << "lookandfeel"
-                                                         << "Ostrel::App::ILookAndFeelManager";
-        QTest::newRow("links manager, no mail settings") << links << "mail"
-                                                         << "Ostrel::App::IMailSettingsManager";
-        QTest::newRow("links manager, no product settings") << links << "product"
-                                                            << "Ostrel::App::IProductSettingsManager";
-        QTest::newRow("links manager, no user settings") << links << "user"
-                                                         << "Ostrel::App::IUserSettingsManager";
-        QTest::newRow("links manager, no launch type") << links << "launchtype"
-                                                       << "Ostrel::App::ILaunchTypeProcessor";
-        const QString updater = QStringLiteral("request updater");
-        QTest::newRow("request updater, no customization") << updater << "customization"
-                                                           << "Ostrel::App::ICustomizationManager";
-        QTest::newRow("request updater, no user settings") << updater << "user"
-                                                           << "Ostrel::App::IUserSettingsManager";
-        QTest::newRow("request updater, no hardware info") << updater << "hardware"
-                                                           << "Ostrel::App::IHardwareInfo";
-        QTest::newRow("web nag URL, no links manager") << "web nag URL"
-                                                       << ""
-                                                       << "Ostrel::App::ILinksManager";
-        QTest::newRow("nag tracking, no nag manager") << "nag tracking"
-                                                      << ""
-                                                      << "Ostrel::App::NagScreen::IManager";
+        const auto row = [](const char* builder, const char* forgotten, const char* named) {
+            QTest::addRow("%s without %s", builder, forgotten) << builder << forgotten << named;
+        };
+        row("links manager", "customization", "Ostrel::App::ICustomizationManager");
+        row("links manager", "hardware", "Ostrel::App::IHardwareInfo");
+        row("links manager", "lookandfeel", "Ostrel::App::ILookAndFeelManager");
+        row("links manager", "mail", "Ostrel::App::IMailSettingsManager");
+        row("links manager", "product", "Ostrel::App::IProductSettingsManager");
+        row("links manager", "user", "Ostrel::App::IUserSettingsManager");
+        row("links manager", "launchtype", "Ostrel::App::ILaunchTypeProcessor");
+        row("request updater", "customization", "Ostrel::App::ICustomizationManager");
+        row("request updater", "user", "Ostrel::App::IUserSettingsManager");
+        row("request updater", "hardware", "Ostrel::App::IHardwareInfo");
+        row("web nag URL", "links", "Ostrel::App::ILinksManager");
+        row("nag tracking", "nags", "Ostrel::App::NagScreen::IManager");
     }
 
     void missingComponentIsNamed()
@@ -130,12 +124,6 @@ private Q_SLOTS:
         QFETCH(QString, builder);
         QFETCH(QString, forgotten);
         QFETCH(QString, named);
-
-        clearProductComponents();
-        for (const auto& [name, set] : setters()) {
-            if (name != forgotten)
-                set();
-        }
         const std::map<QString, std::function<void()>> builds{
             {QStringLiteral("links manager"), [] { app().GetLinksManager(); }},
             {QStringLiteral("request updater"), [] { createDefaultUpdater(app()); }},
@@ -146,6 +134,7 @@ private Q_SLOTS:
              }},
             {QStringLiteral("nag tracking"), [] { NagScreen::setupNagScreenEventHandler(app(), nullptr); }},
         };
+        setComponents(allBut(forgotten));
 
         Test::LogCapture capture;
         // The error each builder always raised (NotNull's among them) is kept.
@@ -165,30 +154,21 @@ private Q_SLOTS:
     void componentsInAnyOrderStillStart_data()
     {
         QTest::addColumn<QStringList>("order");
-        QTest::newRow("customization and settings before the launch type") << QStringList{
-            "customization", "product", "mail", "user", "hardware", "lookandfeel", "launchtype"};
-        QTest::newRow("launch type first") << QStringList{"launchtype", "lookandfeel", "hardware",     "user",
-                                                          "mail",       "product",     "customization"};
-        QTest::newRow("settings last") << QStringList{
-            "customization", "launchtype", "lookandfeel", "hardware", "mail", "user", "product"};
+        QTest::newRow("launch type after the customization and settings") << allBut(QString());
+        QStringList reversed = allBut(QString());
+        std::reverse(reversed.begin(), reversed.end());
+        QTest::newRow("launch type before the customization and settings") << reversed;
     }
 
     void componentsInAnyOrderStillStart()
     {
         QFETCH(QStringList, order);
-        clearProductComponents();
         Test::LogCapture capture;
-        for (const QString& name : order) {
-            for (const auto& [setterName, set] : setters()) {
-                if (setterName == name)
-                    set();
-            }
-        }
+        setComponents(order);
         if (!m_lifetime->isStarted())
             m_lifetime->start();
 
         QVERIFY(m_lifetime->isStarted());
-        QVERIFY(app().GetLinksManager());
         QVERIFY(!app().GetUrl(HOMEPAGE_URL_menu).isEmpty());
         QVERIFY(createDefaultUpdater(app()));
         QVERIFY(capture.matching("needs the component ").empty());
