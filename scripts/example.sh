@@ -36,9 +36,15 @@ if [ -n "$unresolved" ]; then
   echo "$unresolved" >&2
   exit 1
 fi
+# The product's resource tree came from the development package.
+test -f "$work/product/resources/locales/de_DE/ostrel_de_DE.qm"
 timeout 60 "$work/product/minimal-product" --show-nag --quit-after=3000
 echo "example: minimal-product built and ran against $prefix"
 dpkg -x "$work"/packages/ostrel-host_*.deb "$work/root"
 # Launch type 4: nobody in front of the program, so no page opens and nothing asks.
-timeout 60 "$prefix/bin/ostrel-host" --quit-after=1500 --no-start-nag --launch-type=4 >/dev/null
+timeout 60 "$prefix/bin/ostrel-host" --quit-after=1500 --no-start-nag --launch-type=4 >/dev/null 2>"$work/host.err"
+if grep -q 'No "resources" folder' "$work/host.err"; then
+  echo "example: the packaged host did not find its resources" >&2
+  exit 1
+fi
 echo "example: ostrel-host ran from $prefix"
