@@ -21,7 +21,11 @@ libs=$prefix/lib/$multiarch
 # The product's sources are copied out, so nothing of the shell's tree is within its reach.
 cp -r "$root/examples/minimal-product" "$work/product-src"
 cmake -S "$work/product-src" -B "$work/product" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-  -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+  -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF >/dev/null
+if ! grep -qx "Ostrel_DIR:PATH=$libs/cmake/Ostrel" "$work/product/CMakeCache.txt"; then
+  echo "example: the product found another copy of the shell: $(grep '^Ostrel_DIR' "$work/product/CMakeCache.txt")" >&2
+  exit 1
+fi
 cmake --build "$work/product"
 
 # Every library of the shell must come from the root, never from the build tree or the system.
