@@ -34,19 +34,22 @@ function(ostrel_add_library name)
             VERSION ${PROJECT_VERSION}
             SOVERSION ${PROJECT_VERSION_MAJOR})
         install(FILES ${PROJECT_BINARY_DIR}/include/${ARG_FOLDER}/ostrel_${name}_export.h
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ostrel/${ARG_FOLDER})
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ostrel/${ARG_FOLDER} COMPONENT development)
     endif()
     set_target_properties(${target} PROPERTIES EXPORT_NAME ${ARG_ALIAS})
     add_library(Ostrel::${ARG_ALIAS} ALIAS ${target})
+    # The versioned library goes to the runtime package, the unversioned link that a linker wants to
+    # the development package (see cmake/OstrelPackaging.cmake).
     install(TARGETS ${target} EXPORT OstrelTargets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
     # Installed below include/ostrel/<FOLDER>, keeping their path relative to HEADER_BASE.
     foreach(header ${ARG_HEADERS})
         get_filename_component(absolute ${header} ABSOLUTE)
         file(RELATIVE_PATH relative ${ARG_HEADER_BASE} ${absolute})
         get_filename_component(dir ${relative} DIRECTORY)
-        install(FILES ${absolute} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ostrel/${ARG_FOLDER}/${dir})
+        install(FILES ${absolute} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ostrel/${ARG_FOLDER}/${dir}
+            COMPONENT development)
     endforeach()
 endfunction()
 

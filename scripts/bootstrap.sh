@@ -9,7 +9,7 @@ packages=(
   qtbase5-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
   libboost-dev libgoogle-glog-dev libbenchmark-dev
-  xvfb xauth
+  xvfb xauth imagemagick
   fonts-dejavu-core fonts-dejavu-extra
   fonts-noto-cjk  # Japanese, Korean, simplified and traditional Chinese: without it those locales draw boxes
   clang-14 libclang-rt-14-dev

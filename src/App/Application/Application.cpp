@@ -4,6 +4,7 @@
 #include "App/Application/DirectCallGateway.h"
 #include "App/Application/NagScreen/NagRequestPolicy.h"
 #include "App/Application/ProductConstants.h"
+#include "App/Application/RequiredComponent.h"
 #include "App/Application/SplashController_p.h"
 #include "App/Application/UserActionLog_p.h"
 #include "App/Application/VersionLines.h"
@@ -182,10 +183,15 @@ std::shared_ptr<ILinksManager> Application::GetLinksManager()
     LOG(ERROR) << "###############################################################";
     LOG(ERROR) << "### Deprecated. SetLinksManager before use GetLinksManager! ###";
     LOG(ERROR) << "###############################################################";
+    const char* const user = "LinksManager";
     const auto manager = std::make_shared<LinksManager>(
-        get<ICustomizationManager>(), get<IHardwareInfo>(), get<ILookAndFeelManager>(), get<IMailSettingsManager>(),
-        get<IProductSettingsManager>(), get<IUserSettingsManager>(), get<ILaunchTypeProcessor>(),
-        get<IPartnerTracking>(), get<IInstallerSettingsManager>());
+        requiredComponent<ICustomizationManager>(*this, user), requiredComponent<IHardwareInfo>(*this, user),
+        requiredComponent<ILookAndFeelManager>(*this, user),
+        requiredComponent<IMailSettingsManager>(*this, user),
+        requiredComponent<IProductSettingsManager>(*this, user),
+        requiredComponent<IUserSettingsManager>(*this, user),
+        requiredComponent<ILaunchTypeProcessor>(*this, user), get<IPartnerTracking>(),
+        get<IInstallerSettingsManager>());
     SetLinksManager(manager);
     return manager;
 }

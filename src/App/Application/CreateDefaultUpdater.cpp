@@ -2,6 +2,7 @@
 
 #include "App/Application/Application.h"
 #include "App/Application/HttpRequestUpdater.h"
+#include "App/Application/RequiredComponent.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IHardwareInfo.h"
 #include "Interfaces/IUserSettingsManager.h"
@@ -12,9 +13,10 @@ namespace Ostrel::App {
 
 std::shared_ptr<IHttpRequestUpdater> createDefaultUpdater(const ITopManager& topManager)
 {
-    return std::make_shared<HttpRequestUpdater>(topManager.get<ICustomizationManager>(),
-                                                topManager.get<IUserSettingsManager>(),
-                                                topManager.get<IHardwareInfo>());
+    const char* const user = "HttpRequestUpdater";
+    return std::make_shared<HttpRequestUpdater>(requiredComponent<ICustomizationManager>(topManager, user),
+                                                requiredComponent<IUserSettingsManager>(topManager, user),
+                                                requiredComponent<IHardwareInfo>(topManager, user));
 }
 
 std::shared_ptr<IHttpRequestUpdater> createDefaultUpdater()

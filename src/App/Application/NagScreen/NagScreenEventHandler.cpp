@@ -2,6 +2,7 @@
 
 #include "App/Application/ITopManager.h"
 #include "App/Application/NagScreen/DefaultActions.h"
+#include "App/Application/RequiredComponent.h"
 #include "Events/NotNull.h"
 #include "Foundation/PersonalDataMask.h"
 #include "Interfaces/ILinksManager.h"
@@ -375,7 +376,7 @@ private:
 
 void setupNagScreenEventHandler(const ITopManager& top, const std::shared_ptr<Tracking::IApplicationTracker>& tracker)
 {
-    const auto manager = top.get<IManager>();
+    const auto manager = requiredComponent<IManager>(top, "setupNagScreenEventHandler");
     if (!manager)
         throw std::logic_error("setupNagScreenEventHandler: the application has no nag manager");
     const auto actions = std::dynamic_pointer_cast<DefaultActions>(manager->GetActionStrategy());

@@ -2,6 +2,7 @@
 
 #include "App/Application/ITopManager.h"
 #include "App/Application/NagScreen/INagIdLockStorage.h"
+#include "App/Application/RequiredComponent.h"
 #include "Foundation/SHA1.h"
 #include "Foundation/SystemInfo.h"
 #include "Interfaces/ICustomizationManager.h"
@@ -35,11 +36,9 @@ const char* productAppName()
 template <class T>
 std::shared_ptr<T> required(const ITopManager& top, const char* what)
 {
-    auto component = top.template get<T>();
-    if (!component) {
-        LOG(ERROR) << "The web nag URL needs the " << what << " in the application context";
+    auto component = requiredComponent<T>(top, "WebNagUrlGenerator");
+    if (!component)
         throw std::logic_error(std::string("WebNagUrlGenerator: no ") + what);
-    }
     return component;
 }
 
