@@ -7,6 +7,10 @@ using namespace Ostrel::App;
 LinksPanel::LinksPanel(const Opener& open, QWidget* parent) : QListWidget(parent)
 {
     setObjectName(QStringLiteral("linksPanel"));
+    // The window's own background shows through, so the theme's text colour reads on it in every
+    // theme (the themes colour text, not the bases of item views).
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false);
     for (const auto& [key, name] : UrlKeyNames()) {
         auto* item = new QListWidgetItem(QString::fromStdString(name), this);
         item->setData(Qt::UserRole, static_cast<int>(key));
