@@ -24,7 +24,8 @@ private slots:
     void actionsWaitForTheModalWindow()
     {
         QFETCH(QString, modal);
-        auto* box = new QMessageBox(QMessageBox::Question, QStringLiteral("Statistics?"), QStringLiteral("Agree?"));
+        auto* box =
+            new QMessageBox(QMessageBox::Question, QStringLiteral("Statistics?"), QStringLiteral("Agree?"));
         box->setWindowModality(Qt::ApplicationModal);
         if (!modal.isEmpty())
             box->show();
