@@ -4,7 +4,9 @@
 #   ostrel-host --no-start-nag --quit-after=0     the host's start, its first event loop turn, its quit
 #   bare window                                   QApplication + QMainWindow with a menu, shown, quit
 # Both draw offscreen without a display. The host runs with a home of its own, so that the user's
-# settings and log are not touched. Needs a build (BUILD_DIR, default build/).
+# settings and log are not touched, below TMPDIR: every settings write of the host is synced to
+# disk, so on a busy disk the host's share is mostly waiting for it (TMPDIR=/dev/shm leaves the disk
+# out). Needs a build (BUILD_DIR, default build/).
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${BUILD_DIR:-$root/build}
