@@ -5,9 +5,12 @@
 #include "App/Application/Extensions/AutoUpdateRequester/AutoUpdateRequester.h"
 #include "App/Application/Extensions/EmailCollector/EmailCollector.h"
 #include "App/Application/Extensions/InstallerUpdater/InstallerUpdater.h"
+#include "App/Application/Extensions/ModalFreeGateway.h"
 #include "App/Application/Extensions/Tyfi/Tyfi.h"
 #include "Foundation/PersonalDataMask.h"
 #include "Http/HttpClient.h"
+#include "Interfaces/ICustomizationManager.h"
+#include "Interfaces/ILaunchTypeProcessor.h"
 #include "Interfaces/ILifetimeManager.h"
 #include "Interfaces/ILinksManager.h"
 #include "QtUtil/Utf8.h"
@@ -25,6 +28,10 @@ class ExtensionsWiring::Impl
 {
 public:
     std::shared_ptr<Networking::HttpClient> http = std::make_shared<Networking::HttpClient>();
+    // The questions of the extensions wait until no other question (the usage statistics one,
+    // asked from the event loop right after the start) is open.
+    std::shared_ptr<ExternalStimulus::ModalFreeGateway> questions =
+        std::make_shared<ExternalStimulus::ModalFreeGateway>();
     std::vector<std::unique_ptr<IExtension>> extensions;
 
     // A missing component leaves its extension out, with a line in the log; the rest still run.
@@ -72,14 +79,25 @@ ExtensionsWiring::ExtensionsWiring(Application& application, ILifetimeManager& l
         return requester;
     });
     d->add("Tyfi", [&]() {
-        return std::make_unique<Tyfi>(customization, links, application.GetInstallerSettingsManager(), product,
-                                      launchType, gateway);
+        auto tyfi = std::make_unique<Tyfi>(customization, links, application.GetInstallerSettingsManager(),
+                                           product, launchType, gateway);
+        // This product thanks for an installation and for an update, not on every start; a
+        // customization without a page waits for nothing.
+        const std::weak_ptr<ILaunchTypeProcessor> weakLaunchType = launchType;
+        const std::weak_ptr<ICustomizationManager> weakCustomization = customization;
+        tyfi->setCustomNeedOpenChecker([weakLaunchType, weakCustomization]() {
+            const auto type = weakLaunchType.lock();
+            const auto custom = weakCustomization.lock();
+            return type && custom && !custom->GetPageType().empty() &&
+                   (type->GetLaunchType() == ILaunchTypeProcessor::FirstAfterInstall ||
+                    type->GetLaunchType() == ILaunchTypeProcessor::FirstAfterUpdate);
+        });
+        return tyfi;
     });
 
-    // Last: with no gateway holding it back, its dialog is modal and the start waits for it.
     d->add("EmailCollector", [&]() {
-        return std::make_unique<EmailCollector>(customization, links, application.GetMailSettingsManager(), launchType,
-                                                gateway, d->http);
+        return std::make_unique<EmailCollector>(customization, links, application.GetMailSettingsManager(),
+                                                launchType, d->questions, d->http);
     });
 
     Impl* impl = d.get();

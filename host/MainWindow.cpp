@@ -1,12 +1,15 @@
 #include "MainWindow.h"
 
+#include "GestureWiring.h"
 #include "HelpMenu.h"
+#include "LinksPanel.h"
 #include "LookAndFeelWiring.h"
 
 #include "App/Application/Application.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/ILaunchTypeProcessor.h"
 #include "Interfaces/ILifetimeManager.h"
+#include "Interfaces/ILinksManager.h"
 #include "Interfaces/IProductSettingsManager.h"
 
 #include <QAction>
@@ -78,8 +81,18 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
     addFact(d.days, QString::number(m_application.GetDaysPassed()));
     addFact(d.brand, customization ? QString::fromStdString(customization->GetBrand()) : QString());
     layout->addLayout(facts);
-    layout->addStretch();
+    layout->addSpacing(8);
+    layout->addWidget(new QLabel(tr("Links:"), central));
+    // The links manager is asked at activation: the host sets it after the window exists.
+    layout->addWidget(new LinksPanel(
+                          [this](URLKeys key) {
+                              if (const auto links = m_application.GetLinksManager())
+                                  links->OpenUrl(key);
+                          },
+                          central),
+                      1);
     setCentralWidget(central);
+    new GestureWiring(this);
 
     d.fileMenu = menuBar()->addMenu(QString());
     QAction* restart = d.restart = d.fileMenu->addAction(QString());

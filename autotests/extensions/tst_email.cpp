@@ -261,14 +261,55 @@ private slots:
         QCOMPARE(log.matching("callback raised").size(), size_t(1));
     }
 
-    void answerAfterTheCollectorIsGone()
+    void lateWorkAfterTheCollectorIsGone_data()
     {
+        QTest::addColumn<QString>("late");
+        QTest::newRow("a gateway runs the held dialog") << QStringLiteral("dialog");
+        QTest::newRow("an answer on this thread") << QStringLiteral("answer");
+        QTest::newRow("an answer on another thread") << QStringLiteral("threaded answer");
+    }
+
+    // Work the collector started that comes back after it is gone finds nothing to touch.
+    void lateWorkAfterTheCollectorIsGone()
+    {
+        QFETCH(QString, late);
+        m_mail->values["isConfirmed"] = "1";
         const auto http = std::make_shared<PendingHttpClient>();
-        auto subject = collector(std::make_shared<RecordingLinks>(), http);
-        subject->sendUserEmail();
+        const auto gateway = std::make_shared<HoldingGateway>();
+        auto subject = collector(std::make_shared<RecordingLinks>(), http, gateway);
+        if (late == QLatin1String("dialog"))
+            subject->onStart();
+        else
+            subject->sendUserEmail();
         subject.reset();
-        http->pending.front()({200, {}, {}});
+        if (late == QLatin1String("dialog")) {
+            QCOMPARE(gateway->posted.size(), size_t(1));
+            gateway->flush();
+            QVERIFY(!QApplication::activeModalWidget());
+        } else if (late == QLatin1String("answer")) {
+            http->pending.front()({200, {}, {}});
+        } else {
+            std::thread answer(http->pending.front(), Networking::HttpResponse{200, {}, {}});
+            answer.join();
+        }
         QVERIFY(!m_mail->Has("IsRegUser"));
+    }
+
+    // A second send while the first one's answer arrives on another thread: the new promise and
+    // the late fulfilment meet on one lock (the race checker's pass runs this).
+    void aNewSendWhileAnAnswerArrivesOnAnotherThread()
+    {
+        LogCapture log;
+        const auto http = std::make_shared<PendingHttpClient>();
+        const auto subject = collector(std::make_shared<RecordingLinks>(), http);
+        subject->sendUserEmail();
+        const auto firstAnswer = http->pending.front();
+        std::thread answer(firstAnswer, Networking::HttpResponse{500, {}, "first refused"});
+        subject->sendUserEmail();
+        answer.join();
+        QCOMPARE(http->pending.size(), size_t(2));
+        http->pending[1]({500, {}, "second refused"});
+        QCOMPARE(log.matching("refused").size(), size_t(2));
     }
 
     // An HTTP client may answer on a thread of its own: once the sender is gone, no callback runs,

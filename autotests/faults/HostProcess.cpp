@@ -92,10 +92,16 @@ QString HostProcess::standardOutput() const
     return m_stdout;
 }
 
+QString HostProcess::standardError() const
+{
+    m_stderr += QString::fromUtf8(m_process.readAllStandardError());
+    return m_stderr;
+}
+
 QString HostProcess::log() const
 {
     // Standard error is read so that the pipe never fills; the file has every line of it too.
-    m_stderr += QString::fromUtf8(m_process.readAllStandardError());
+    standardError();
     QString text;
     QDirIterator files(m_root + QStringLiteral("/data"), {QStringLiteral("*.log")}, QDir::Files,
                        QDirIterator::Subdirectories);

@@ -32,6 +32,8 @@ public:
 
     /// Everything the host printed so far on its standard output.
     QString standardOutput() const;
+    /// Everything the host printed so far on its standard error (the console's warnings).
+    QString standardError() const;
     /// Everything the host logged so far to its log file, every severity.
     QString log() const;
     /// Waits, at most `timeoutMs`, until the log holds `text`.

@@ -22,6 +22,8 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <cstdio>
+
 namespace Ostrel::App {
 
 namespace {
@@ -140,6 +142,18 @@ void NagTest::Impl::walk(const TestNagContext& context) const
     const QString nameTemplate = root + separator + QStringLiteral("NagScreenshots") + separator +
                                  QStringLiteral("%1") + context.moduleName + separator;
     NagHashTable hashes;
+    const auto forThisModule = [&context](const NagScreen::NagRecord& record) {
+        return record.modules.isEmpty() || record.modules.contains(context.moduleName);
+    };
+    // The walk takes its time (a picture delay and a show delay for every nag in every locale):
+    // whoever started it sees on the console how far it is.
+    int total = 0;
+    for (const auto& entry : context.actions) {
+        for (const auto& action : entry.second)
+            total += forThisModule(action.second) ? 1 : 0;
+    }
+    total *= context.locales.size();
+    int done = 0;
 
     for (const QString& locale : context.locales) {
         lookAndFeelManager->SetLocale(Util::QStringToUtf8(locale));
@@ -150,7 +164,7 @@ void NagTest::Impl::walk(const TestNagContext& context) const
 
         for (const auto& [mode, byAction] : context.actions) {
             for (const auto& [action, record] : byAction) {
-                if (!record.modules.isEmpty() && !record.modules.contains(context.moduleName))
+                if (!forThisModule(record))
                     continue;
                 const NagScreen::NagContext nagContext{action, mode, 1};
                 const QString name =
@@ -158,6 +172,8 @@ void NagTest::Impl::walk(const TestNagContext& context) const
                          ? mode + QLatin1Char('-') + NagScreen::ImplName(record.implementation) + QLatin1Char('-') + action
                          : QFileInfo(context.path).absoluteDir().dirName()) +
                     suffix;
+                std::printf("Nag %d/%d (%s): %s\n", ++done, total, qPrintable(locale), qPrintable(name));
+                std::fflush(stdout);
                 QString webUrl = QStringLiteral("UNDEFINED");
                 std::unique_ptr<NagScreen::AbstractContent> content = factory->Create(record.implementation, nagContext);
                 if (content) {

@@ -16,6 +16,7 @@
 #include <glog/logging.h>
 
 #include <future>
+#include <mutex>
 
 namespace Ostrel::App {
 
@@ -28,6 +29,16 @@ bool isSet(const ISettingsManager& settings, const std::string& key)
 {
     return settings.GetString(key, std::string()) == "1";
 }
+
+// What a send's answer reaches. The answer may come on any thread and at any time, also after the
+// collector is gone (an HTTP client that reports late, a sender that lets a callback through), so
+// it holds this by a weak pointer; the lock orders a late fulfilment against a new send replacing
+// the promise on the GUI thread.
+struct SendResult
+{
+    std::mutex mutex;
+    std::promise<int> promise;
+};
 } // namespace
 
 class EmailCollector::Impl
@@ -53,8 +64,10 @@ public:
     Core::NotNull<std::shared_ptr<ILaunchTypeProcessor>> launchTypeProcessor;
     std::shared_ptr<ExternalStimulus::IGateway> gateway;
     std::unique_ptr<EmailSender> sender;
-    // Mutable: the steps are const, and the callback fulfils whichever promise is current.
-    mutable std::promise<int> sendResult;
+    // The callback fulfils whichever promise is current.
+    const std::shared_ptr<SendResult> sendResult = std::make_shared<SendResult>();
+    // Actions a gateway may hold back until after this object is gone check it first.
+    const std::shared_ptr<bool> aliveToken = std::make_shared<bool>(true);
 };
 
 EmailCollector::EmailCollector(const std::shared_ptr<ICustomizationManager>& customizationManager,
@@ -73,7 +86,8 @@ EmailCollector::~EmailCollector()
     // The sender goes first, so that no late answer reaches the promise while it is released.
     d->sender.reset();
     try {
-        (void)d->sendResult.get_future();
+        const std::lock_guard<std::mutex> lock(d->sendResult->mutex);
+        (void)d->sendResult->promise.get_future();
     } catch (const std::exception& error) {
         LOG(WARNING) << error.what();
     }
@@ -83,10 +97,15 @@ void EmailCollector::onStart()
 {
     if (!needCollectEmail())
         return;
-    if (d->gateway)
-        d->gateway->post({kEmailDialogAction, [this]() { showEmailDialog(); }});
-    else
+    if (d->gateway) {
+        const std::weak_ptr<bool> alive = d->aliveToken;
+        d->gateway->post({kEmailDialogAction, [this, alive]() {
+                              if (alive.lock())
+                                  showEmailDialog();
+                          }});
+    } else {
         showEmailDialog();
+    }
 }
 
 bool EmailCollector::needCollectEmail() const
@@ -120,14 +139,21 @@ void EmailCollector::showEmailDialog() const
 
 void EmailCollector::sendUserEmail() const
 {
-    d->sendResult = std::promise<int>();
-    Impl* impl = d.get();
-    d->sender->SendEmail({}, [impl](bool success, const std::string& message) {
+    {
+        const std::lock_guard<std::mutex> lock(d->sendResult->mutex);
+        d->sendResult->promise = std::promise<int>();
+    }
+    const std::weak_ptr<SendResult> weakResult = d->sendResult;
+    d->sender->SendEmail({}, [weakResult](bool success, const std::string& message) {
         // The HTTP error may quote the request URL, which carries the name and the address.
         if (!success)
             LOG(ERROR) << Core::PersonalDataMask::mask(message);
+        const auto result = weakResult.lock();
+        if (!result)
+            return;
+        const std::lock_guard<std::mutex> lock(result->mutex);
         // A second fulfilment raises here; the sender catches and logs it.
-        impl->sendResult.set_value(1);
+        result->promise.set_value(1);
     });
 }
 
