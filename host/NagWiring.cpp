@@ -193,8 +193,10 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     const int delay = parser.value(startNagDelayOption()).toInt(&valid);
     if (valid && delay >= 0)
         d->startNagDelayMs = delay;
-    d->manager->SetWebNagUrlGenerator(
-        std::make_shared<NagScreen::WebNagUrlGenerator>(application, std::make_shared<NagScreen::NagIdLockStorage>(settings)));
+    // One storage: the manager locks what a web nag promises, the generator's requests carry it.
+    const auto nagIdLocks = std::make_shared<NagScreen::NagIdLockStorage>(settings);
+    d->manager->SetNagIdLockStorage(nagIdLocks);
+    d->manager->SetWebNagUrlGenerator(std::make_shared<NagScreen::WebNagUrlGenerator>(application, nagIdLocks));
     application.SetNagScreenManager(d->manager);
     application.GetLinksManagerSetter()->RegisterEventHandler(d.get());
     d->onSet();
