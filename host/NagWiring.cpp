@@ -72,7 +72,7 @@ QCommandLineOption noStartNagOption()
     return {QStringLiteral("no-start-nag"), QStringLiteral("Do not show the nag of the start.")};
 }
 
-// The built-in web configuration, with the host's choice of dimmer on top.
+// The built-in web configuration, with fingerprints on and the host's choice of dimmer on top.
 class HostNagsSettings : public WebConfig::DefaultNagsSettings
 {
 public:
@@ -80,6 +80,8 @@ public:
         : m_dimming(std::move(dimming))
     {
     }
+    // The sample nags publish fingerprints; the host reports how each one rendered ("NAG_HASH").
+    bool sendNagHashEvent() const override { return true; }
     std::string nagDimmingName() const override
     {
         return m_dimming.isEmpty() ? DefaultNagsSettings::nagDimmingName() : Util::QStringToUtf8(m_dimming);
