@@ -198,7 +198,8 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     // One storage: the manager locks what a web nag promises, the generator's requests carry it.
     const auto nagIdLocks = std::make_shared<NagScreen::NagIdLockStorage>(settings);
     d->manager->SetNagIdLockStorage(nagIdLocks);
-    d->manager->SetWebNagUrlGenerator(std::make_shared<NagScreen::WebNagUrlGenerator>(application, nagIdLocks));
+    d->manager->SetWebNagUrlGenerator(
+        std::make_shared<NagScreen::WebNagUrlGenerator>(application, nagIdLocks));
     application.SetNagScreenManager(d->manager);
     application.GetLinksManagerSetter()->RegisterEventHandler(d.get());
     d->onSet();
