@@ -417,6 +417,12 @@ private Q_SLOTS:
                      qPrintable(where));
         }
 
+        // The buttons, however they wrap, stay below the texts above them.
+        const auto* body = root->findChild<QQuickItem*>(QStringLiteral("body"));
+        const auto* buttons = root->findChild<QQuickItem*>(QStringLiteral("buttons"));
+        QVERIFY(body && buttons);
+        QVERIFY2(body->y() + body->height() < buttons->y(), qPrintable(QString::number(buttons->y())));
+
         QCOMPARE(content.Picture().size(), QSize(850, 472));
         QCOMPARE(content.HashSize(), QSize(16, 8));
         const QString hash = content.ComputedHash();

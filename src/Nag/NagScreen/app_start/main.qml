@@ -84,6 +84,7 @@ Item {
 
         Column {
             id: body
+            objectName: "body"
             anchors { left: hero.right; right: parent.right; top: parent.top; leftMargin: 44; rightMargin: 48; topMargin: 58 }
             spacing: 16
 
@@ -124,6 +125,7 @@ Item {
         // The second button goes under the first when a language's labels don't fit side by side.
         Flow {
             id: buttons
+            objectName: "buttons"
             anchors { left: body.left; right: body.right; bottom: parent.bottom; bottomMargin: 66 }
             spacing: 14
             Rectangle {
