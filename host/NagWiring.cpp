@@ -72,7 +72,7 @@ QCommandLineOption noStartNagOption()
     return {QStringLiteral("no-start-nag"), QStringLiteral("Do not show the nag of the start.")};
 }
 
-// The built-in web configuration, with the host's choice of dimmer on top.
+// The built-in web configuration, with fingerprints on and the host's choice of dimmer on top.
 class HostNagsSettings : public WebConfig::DefaultNagsSettings
 {
 public:
@@ -80,6 +80,8 @@ public:
         : m_dimming(std::move(dimming))
     {
     }
+    // The sample nags publish fingerprints; the host reports how each one rendered ("NAG_HASH").
+    bool sendNagHashEvent() const override { return true; }
     std::string nagDimmingName() const override
     {
         return m_dimming.isEmpty() ? DefaultNagsSettings::nagDimmingName() : Util::QStringToUtf8(m_dimming);
@@ -193,8 +195,11 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     const int delay = parser.value(startNagDelayOption()).toInt(&valid);
     if (valid && delay >= 0)
         d->startNagDelayMs = delay;
+    // One storage: the manager locks what a web nag promises, the generator's requests carry it.
+    const auto nagIdLocks = std::make_shared<NagScreen::NagIdLockStorage>(settings);
+    d->manager->SetNagIdLockStorage(nagIdLocks);
     d->manager->SetWebNagUrlGenerator(
-        std::make_shared<NagScreen::WebNagUrlGenerator>(application, std::make_shared<NagScreen::NagIdLockStorage>(settings)));
+        std::make_shared<NagScreen::WebNagUrlGenerator>(application, nagIdLocks));
     application.SetNagScreenManager(d->manager);
     application.GetLinksManagerSetter()->RegisterEventHandler(d.get());
     d->onSet();

@@ -11,8 +11,8 @@
 #include "Nag/NagManager.h"
 #include "Nag/QuickContent.h"
 
-#include "NagModelData.h"
 #include "MemorySettings.h"
+#include "NagModelData.h"
 #include "TestEnvironment.h"
 
 #include <QFile>
@@ -98,14 +98,17 @@ private Q_SLOTS:
         QVERIFY(config);
         QCOMPARE(config->size(), std::size_t(6));
         // A mode's own row wins over the any_mode row; any_mode fills in for the others.
-        QCOMPARE(config->Find(QStringLiteral("licensed"), QStringLiteral("app_start"))->id, QStringLiteral("s2"));
-        QCOMPARE(config->Find(QStringLiteral("trial"), QStringLiteral("app_start"))->id, QStringLiteral("s1"));
+        QCOMPARE(config->Find(QStringLiteral("licensed"), QStringLiteral("app_start"))->id,
+                 QStringLiteral("s2"));
+        QCOMPARE(config->Find(QStringLiteral("trial"), QStringLiteral("app_start"))->id,
+                 QStringLiteral("s1"));
         QVERIFY(!config->Find(QStringLiteral("trial"), QStringLiteral("app_close")));
         QCOMPARE(config->Find(QStringLiteral("free"), QStringLiteral("ask_for_review"))->implementation,
                  Implementation::Web);
         // ActionsForMode lists a mode's own rows only: "any_mode" is a mode like the others there.
         QCOMPARE(config->ActionsForMode(QStringLiteral("trial")).size(), std::size_t(0));
-        QCOMPARE(config->ActionsForMode(QStringLiteral("any_mode")).count(QStringLiteral("app_start")), std::size_t(1));
+        QCOMPARE(config->ActionsForMode(QStringLiteral("any_mode")).count(QStringLiteral("app_start")),
+                 std::size_t(1));
     }
 
     void badMaps_data()
@@ -116,11 +119,8 @@ private Q_SLOTS:
         QTest::newRow("no nags array") << QByteArray(Json1()) << -1;
         QTest::newRow("an array at the top") << QByteArray("[]") << -1;
         QTest::newRow("rows without action or source") << QByteArray(Json2()) << 0;
-        QTest::newRow("unknown implementation") << QByteArray(
-            Json3()) << 0;
-        QTest::newRow("a later row replaces") << QByteArray(
-            Json4())
-                                              << 1;
+        QTest::newRow("unknown implementation") << QByteArray(Json3()) << 0;
+        QTest::newRow("a later row replaces") << QByteArray(Json4()) << 1;
     }
     void badMaps()
     {
@@ -137,11 +137,17 @@ private Q_SLOTS:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QVariant>("expected");
-        QTest::newRow("default") << "ACTION_OSTREL_FACEBOOK" << "en_US" << QVariant(QStringLiteral("SHOW=ActionOstrelFacebook"));
-        QTest::newRow("ru_RU override") << "ACTION_OSTREL_FACEBOOK" << "ru_RU" << QVariant(QStringLiteral("HIDE=ActionOstrelFacebook"));
-        QTest::newRow("ru_RU shows VK") << "ACTION_OSTREL_VK" << "ru_RU" << QVariant(QStringLiteral("SHOW=ActionOstrelVK"));
-        QTest::newRow("locale is exact") << "ACTION_OSTREL_OK" << "ru" << QVariant(QStringLiteral("HIDE=ActionOstrelOdnoklassniki"));
-        QTest::newRow("absent key") << "ACTION_NOTHING" << "ru_RU" << QVariant();
+        QTest::newRow("default") << "ACTION_OSTREL_FACEBOOK"
+                                 << "en_US" << QVariant(QStringLiteral("SHOW=ActionOstrelFacebook"));
+        QTest::newRow("ru_RU override") << "ACTION_OSTREL_FACEBOOK"
+                                        << "ru_RU" << QVariant(QStringLiteral("HIDE=ActionOstrelFacebook"));
+        QTest::newRow("ru_RU shows VK") << "ACTION_OSTREL_VK"
+                                        << "ru_RU" << QVariant(QStringLiteral("SHOW=ActionOstrelVK"));
+        QTest::newRow("locale is exact")
+            << "ACTION_OSTREL_OK"
+            << "ru" << QVariant(QStringLiteral("HIDE=ActionOstrelOdnoklassniki"));
+        QTest::newRow("absent key") << "ACTION_NOTHING"
+                                    << "ru_RU" << QVariant();
     }
     void webConfiguration()
     {
@@ -149,10 +155,12 @@ private Q_SLOTS:
         QFETCH(QString, locale);
         const auto document = WebConfig::WebConfigDocument::defaults();
         QTEST(document.value(QStringLiteral("CustomizationSettings"), key, locale), "expected");
-        QCOMPARE(document.value(QStringLiteral("UpdateCheckerResolver"), QStringLiteral("IsUpdateAllowed"), locale),
+        QCOMPARE(document.value(QStringLiteral("UpdateCheckerResolver"), QStringLiteral("IsUpdateAllowed"),
+                                locale),
                  QVariant(true));
-        QCOMPARE(document.value(QStringLiteral("UpdateCheckerResolver"), QStringLiteral("AppcastUrl"), locale),
-                 QVariant(QString()));
+        QCOMPARE(
+            document.value(QStringLiteral("UpdateCheckerResolver"), QStringLiteral("AppcastUrl"), locale),
+            QVariant(QString()));
     }
 
     void nagSettingsFromTheWebConfiguration()
@@ -224,22 +232,20 @@ private Q_SLOTS:
         NagManager manager(settings, writeMap(dir));
         manager.SetModuleName(QStringLiteral("capture"));
         QCOMPARE(manager.GetAppMode(), QStringLiteral("free"));
-        QVERIFY(manager.IsNagAvailable(QStringLiteral("app_start")));      // from any_mode
+        QVERIFY(manager.IsNagAvailable(QStringLiteral("app_start"))); // from any_mode
         QVERIFY(manager.IsNagAvailable(QStringLiteral("app_close")));
         QVERIFY(!manager.IsNagAvailable(QStringLiteral("no_such_action")));
         QVERIFY(!manager.IsNagDisabled(QStringLiteral("no_such_action")));
         QVERIFY(manager.IsNagDisabled(QStringLiteral("before_routine"))); // the configuration
         QVERIFY(!manager.IsNagAvailable(QStringLiteral("before_routine")));
-        QVERIFY(!manager.IsNagAvailable(QStringLiteral("major_update")));  // its file is missing
+        QVERIFY(!manager.IsNagAvailable(QStringLiteral("major_update")));   // its file is missing
         QVERIFY(!manager.IsNagAvailable(QStringLiteral("ask_for_review"))); // another module's
 
         // The user's choice, kept under the mode of the row.
         settings->SetBool("dontShowNag_app_start_any_mode/s1", true);
         QVERIFY(manager.IsNagDisabled(QStringLiteral("app_start")));
         auto nagsSettings = std::make_shared<WebConfig::DefaultNagsSettings>(
-            WebConfig::WebConfigDocument::fromJson(
-                Json6()),
-            QStringLiteral("en_US"));
+            WebConfig::WebConfigDocument::fromJson(Json6()), QStringLiteral("en_US"));
         manager.SetNagsSettings(nagsSettings);
         QVERIFY(!manager.IsNagDisabled(QStringLiteral("app_start")));
 
@@ -262,7 +268,8 @@ private Q_SLOTS:
         QCOMPARE(strategy->ids, QStringList{QStringLiteral("app_start_welcome_1")}); // the nag's own id
 
         // An override takes any action, even one without a row, from a local main.qml.
-        manager.OverrideNagPath(QStringLiteral("unknown_action"), QStringLiteral(":/NagScreen/app_close/main.qml"));
+        manager.OverrideNagPath(QStringLiteral("unknown_action"),
+                                QStringLiteral(":/NagScreen/app_close/main.qml"));
         QVERIFY(manager.IsNagAvailable(QStringLiteral("unknown_action")));
         QCOMPARE(manager.ShowNag(QStringLiteral("unknown_action")), 7);
         QCOMPARE(strategy->ids.last(), QStringLiteral("app_close_upgrade_1"));
@@ -319,7 +326,8 @@ private Q_SLOTS:
         QFETCH(QString, folder);
         const QString base = QStringLiteral(":/NagScreen/") + folder;
         QuickContent content(NagContext{folder, QStringLiteral("free")},
-                             QUrl(QStringLiteral("qrc") + base + QStringLiteral("/main.qml")), ContentEnvironment());
+                             QUrl(QStringLiteral("qrc") + base + QStringLiteral("/main.qml")),
+                             ContentEnvironment());
         QSignalSpy finished(&content, &AbstractContent::Finished);
         content.Load();
         QCOMPARE(content.State(), ContentState::Ready);
@@ -346,11 +354,11 @@ private Q_SLOTS:
         QFile translations(base + QStringLiteral("/TranslationUtils.js"));
         QVERIFY(translations.open(QIODevice::ReadOnly));
         const QString script = QString::fromUtf8(translations.readAll());
-        const int tags = script.count(QRegularExpression(QString::fromLatin1(Json7()),
-                                                         QRegularExpression::MultilineOption));
+        const int tags = script.count(
+            QRegularExpression(QString::fromLatin1(Json7()), QRegularExpression::MultilineOption));
         QVERIFY(tags >= 5);
-        for (const char* locale : {"de_DE", "en_US", "es_ES", "fr_FR", "it_IT", "ja_JP", "ko_KR", "nl_NL", "pl_PL",
-                                   "pt_BR", "ru_RU", "tr_TR", "zh_CN", "zh_TW"})
+        for (const char* locale : {"de_DE", "en_US", "es_ES", "fr_FR", "it_IT", "ja_JP", "ko_KR", "nl_NL",
+                                   "pl_PL", "pt_BR", "ru_RU", "tr_TR", "zh_CN", "zh_TW"})
             QCOMPARE(script.count(QLatin1String("\"") + QLatin1String(locale) + QLatin1String("\":")), tags);
 
         // Escape closes with 0, once, whatever follows.
@@ -364,21 +372,63 @@ private Q_SLOTS:
         QCOMPARE(finished.at(0).at(0).toInt(), 0);
     }
 
-    void theFirstFrameGivesPictureAndHash()
+    // Each shipped nag in each locale whose text the library's own fonts draw: every text stays
+    // inside the item that holds it and inside the nag, and the first frame's fingerprint is the
+    // one published for that locale. (Japanese, Korean and Chinese text comes from the machine's
+    // fonts, so neither its width nor its fingerprint is the same on every machine.)
+    void shippedNagsFitAndRenderAsPublished_data()
     {
-        QuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
-                             QUrl(QStringLiteral("qrc:/NagScreen/app_start/main.qml")), ContentEnvironment());
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("locale");
+        for (const char* folder : {"app_start", "app_close", "before_routine"}) {
+            for (const char* locale :
+                 {"de_DE", "en_US", "es_ES", "fr_FR", "it_IT", "nl_NL", "pl_PL", "pt_BR", "ru_RU", "tr_TR"})
+                QTest::addRow("%s %s", folder, locale)
+                    << QString::fromLatin1(folder) << QString::fromLatin1(locale);
+        }
+    }
+    void shippedNagsFitAndRenderAsPublished()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, locale);
+        ContentEnvironment environment;
+        environment.locale = [locale]() { return locale; };
+        QuickContent content(NagContext{folder, QStringLiteral("free")},
+                             QUrl(QStringLiteral("qrc:/NagScreen/") + folder + QStringLiteral("/main.qml")),
+                             environment);
         content.Load();
-        QCOMPARE(content.HashName(), QStringLiteral("app_start_welcome"));
-        QCOMPARE(content.HashSize(), QSize(16, 8));
+        QCOMPARE(content.State(), ContentState::Ready);
         QSignalSpy rendered(&content, &AbstractContent::Rendered);
         content.GetUi()->show();
         QVERIFY(rendered.wait());
+
+        QQuickItem* root = qobject_cast<QQuickWidget*>(content.GetUi())->rootObject();
+        const QRectF nag(0, 0, root->width(), root->height());
+        for (QQuickItem* text : textItems(root)) {
+            if (!text->isVisible() || text->property("text").toString().isEmpty())
+                continue;
+            const QRectF drawn(0, 0, qMax(text->width(), text->property("contentWidth").toReal()),
+                               qMax(text->height(), text->property("contentHeight").toReal()));
+            const QRectF inParent = text->mapRectToItem(text->parentItem(), drawn);
+            const QRectF parent(0, 0, text->parentItem()->width(), text->parentItem()->height());
+            const QString where = text->property("text").toString();
+            QVERIFY2(parent.contains(inParent.adjusted(0.5, 0.5, -0.5, -0.5)), qPrintable(where));
+            QVERIFY2(nag.contains(text->mapRectToItem(root, drawn).adjusted(0.5, 0.5, -0.5, -0.5)),
+                     qPrintable(where));
+        }
+
+        // The buttons, however they wrap, stay below the texts above them.
+        const auto* body = root->findChild<QQuickItem*>(QStringLiteral("body"));
+        const auto* buttons = root->findChild<QQuickItem*>(QStringLiteral("buttons"));
+        QVERIFY(body && buttons);
+        QVERIFY2(body->y() + body->height() < buttons->y(), qPrintable(QString::number(buttons->y())));
+
         QCOMPARE(content.Picture().size(), QSize(850, 472));
+        QCOMPARE(content.HashSize(), QSize(16, 8));
         const QString hash = content.ComputedHash();
         QCOMPARE(hash.size(), 16 * 8);
         QCOMPARE(content.ComputedHash(), hash);
-        // The nag was published as it renders here, with the fonts the library carries.
+        // Published as it renders here, with the fonts the library carries.
         const int distance = DifferenceHashDistance(content.DeclaredHash(), hash);
         QVERIFY2(distance >= 0 && distance <= FingerprintTolerance,
                  qPrintable(QStringLiteral("%1 bits apart; computed %2").arg(distance).arg(hash)));

@@ -40,11 +40,19 @@ public:
     }
 };
 
-std::unique_ptr<QuickContent> loadedNag()
+// Tells how many connections reach its Finished, which a strategy must not leave behind.
+class CountedNag : public QuickContent
 {
-    auto content = std::make_unique<QuickContent>(
-        NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
-        QUrl(QStringLiteral("qrc:/test/qml/Growing.qml")), ContentEnvironment());
+public:
+    using QuickContent::QuickContent;
+    int finishedReceivers() const { return receivers(SIGNAL(Finished(int, QMap<QString, QVariant>))); }
+};
+
+std::unique_ptr<CountedNag> loadedNag()
+{
+    auto content =
+        std::make_unique<CountedNag>(NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
+                                     QUrl(QStringLiteral("qrc:/test/qml/Growing.qml")), ContentEnvironment());
     content->Load();
     return content;
 }
@@ -123,6 +131,7 @@ private Q_SLOTS:
     {
         QFETCH(int, code);
         auto content = loadedNag();
+        const int receiversBefore = content->finishedReceivers();
         QPointer<QWidget> ui = content->GetUi();
         AbstractContent* raw = content.get();
         int fade = -1;
@@ -146,6 +155,8 @@ private Q_SLOTS:
         QVERIFY(!stuck);
         QCOMPARE(fade, 1);
         QVERIFY(ui && !ui->parentWidget());
+        // The popup is gone; a later ending of the same content must not reach it.
+        QCOMPARE(content->finishedReceivers(), receiversBefore);
     }
 
     void linksGoToTheApplicationsOpenerWhileItLives()

@@ -1,5 +1,5 @@
 // The web nag request: the whole URL for several locales with switched-off nags and a locked id,
-// the nag id locks, and a web nag fetched from a local server at the generated address.
+// the nag id locks, and web nags fetched from a local server through the nag manager.
 
 #include "App/Application/ITopManager.h"
 #include "App/Application/NagScreen/NagIdLockStorage.h"
@@ -8,7 +8,9 @@
 #include "Core/ProductSettingsManager.h"
 #include "Foundation/SHA1.h"
 #include "Foundation/SystemInfo.h"
-#include "Nag/WebQuickContent.h"
+#include "Nag/AbstractContent.h"
+#include "Nag/IShowStrategy.h"
+#include "Nag/NagManager.h"
 #include "QtUtil/UrlProtocol.h"
 #include "QtUtil/Utf8.h"
 
@@ -21,11 +23,36 @@
 #include "TestEnvironment.h"
 
 #include <QTemporaryDir>
+#include <QUrlQuery>
 
 using namespace Ostrel;
 using namespace Ostrel::App;
 using namespace Ostrel::App::NagScreen;
 using namespace Ostrel::Test;
+
+namespace {
+
+// Shows nothing: notes what is shown and what a request for the same nag made meanwhile would
+// carry, and ends with a fixed code.
+class PeekingStrategy : public IShowStrategy
+{
+public:
+    explicit PeekingStrategy(int code) : m_code(code) {}
+    std::function<QString()> peek;
+    QUrl shown;
+    QString peeked;
+    int ShowNag(AbstractContent& content) override
+    {
+        shown = content.SourceUrl();
+        peeked = peek();
+        return m_code;
+    }
+
+private:
+    int m_code;
+};
+
+} // namespace
 
 class WebUrlTest : public QObject
 {
@@ -43,13 +70,18 @@ class WebUrlTest : public QObject
     // The text the server is to receive, with the machine's own system values.
     QString expected(const QString& base, const QString& lang) const
     {
-        return base + QStringLiteral("?app=home-capture-desk&module=capture&app_ver=3-2-1&partner=acme&app_mode=free&lang=")
-               + lang + QStringLiteral("&app_action=app_start&huid=") + QString::fromStdString(Util::SHA1::digest("machine-42"))
-               + QStringLiteral("&protocol=1&os=") + Util::Utf8ToQString(Core::SystemName()) + QStringLiteral("&os_bits=")
-               + QString::number(Core::OSBits()) + QStringLiteral("&platform=") + QString::number(Core::AppBits())
-               + QStringLiteral("&cpu_arch=") + Util::Utf8ToQString(Core::ProcessorArchitecture())
-               + QStringLiteral("&excludeId=old_1,old_3,&include_id=promised_9&bundle_name=UNDEFINED&webuid=w-77"
-                                "&market=global&brand=probe&gift_id=42");
+        return base +
+               QStringLiteral(
+                   "?app=home-capture-desk&module=capture&app_ver=3-2-1&partner=acme&app_mode=free&lang=") +
+               lang + QStringLiteral("&app_action=app_start&huid=") +
+               QString::fromStdString(Util::SHA1::digest("machine-42")) + QStringLiteral("&protocol=1&os=") +
+               Util::Utf8ToQString(Core::SystemName()) + QStringLiteral("&os_bits=") +
+               QString::number(Core::OSBits()) + QStringLiteral("&platform=") +
+               QString::number(Core::AppBits()) + QStringLiteral("&cpu_arch=") +
+               Util::Utf8ToQString(Core::ProcessorArchitecture()) +
+               QStringLiteral(
+                   "&excludeId=old_1,old_3,&include_id=promised_9&bundle_name=UNDEFINED&webuid=w-77"
+                   "&market=global&brand=probe&gift_id=42");
     }
 
     std::shared_ptr<WebNagUrlGenerator> generator()
@@ -91,10 +123,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("lang");
-        QTest::newRow("de_DE") << "de_DE" << "de";
-        QTest::newRow("ja_JP") << "ja_JP" << "jp";
-        QTest::newRow("zh_CN") << "zh_CN" << "zh_CN";
-        QTest::newRow("pt_BR") << "pt_BR" << "pt";
+        QTest::newRow("de_DE") << "de_DE"
+                               << "de";
+        QTest::newRow("ja_JP") << "ja_JP"
+                               << "jp";
+        QTest::newRow("zh_CN") << "zh_CN"
+                               << "zh_CN";
+        QTest::newRow("pt_BR") << "pt_BR"
+                               << "pt";
     }
 
     void wholeUrl()
@@ -102,21 +138,26 @@ private Q_SLOTS:
         QFETCH(QString, locale);
         QFETCH(QString, lang);
         const QUrl url = generator()->Generate(QStringLiteral("free"), QStringLiteral("app_start"), locale);
-        const QUrl want(expected(QStringLiteral("https://msg.ostrel.com/get_nag.php"), lang), QUrl::TolerantMode);
+        const QUrl want(expected(QStringLiteral("https://msg.ostrel.com/get_nag.php"), lang),
+                        QUrl::TolerantMode);
         QCOMPARE(url.toString(QUrl::FullyEncoded), want.toString(QUrl::FullyEncoded));
     }
 
     void theContextTakesTheCurrentLocale()
     {
-        const QUrl url = generator()->Generate(NagContext{QStringLiteral("app_start"), QStringLiteral("free")});
-        QCOMPARE(url, QUrl(expected(QStringLiteral("https://msg.ostrel.com/get_nag.php"), QStringLiteral("de")),
-                           QUrl::TolerantMode));
+        const QUrl url =
+            generator()->Generate(NagContext{QStringLiteral("app_start"), QStringLiteral("free")});
+        QCOMPARE(url,
+                 QUrl(expected(QStringLiteral("https://msg.ostrel.com/get_nag.php"), QStringLiteral("de")),
+                      QUrl::TolerantMode));
     }
 
     void nothingSwitchedOffNorLocked()
     {
-        const QUrl url = generator()->Generate(QStringLiteral("trial"), QStringLiteral("app_close"), QStringLiteral("en_US"));
-        QVERIFY2(url.toString().contains(QStringLiteral("&excludeId=&include_id=&")), qPrintable(url.toString()));
+        const QUrl url = generator()->Generate(QStringLiteral("trial"), QStringLiteral("app_close"),
+                                               QStringLiteral("en_US"));
+        QVERIFY2(url.toString().contains(QStringLiteral("&excludeId=&include_id=&")),
+                 qPrintable(url.toString()));
     }
 
     void lockStorage()
@@ -134,47 +175,90 @@ private Q_SLOTS:
         QCOMPARE(storage.cleanupNagId("a", "m", "z"), std::string());
     }
 
-    void webNagFetchedFromTheGeneratedAddress()
+    // Through the manager: a row addressed to the nag server is asked with the generated request,
+    // a nag opened on request loads its own address. The id the nag reports is locked while it is
+    // up, so a request made meanwhile asks for it again, and released once it has been seen.
+    void webNagsThroughTheManager_data()
     {
-        // Only the nag is there: the engine's question for the folder's qmldir gets a 404.
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<bool>("generated");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("lockedAfter");
+        QTest::newRow("nag server row, seen") << "major_update"
+                                              << "/nag/main.qml" << true << 1 << "";
+        QTest::newRow("nag server row, cut short") << "major_update"
+                                                   << "/nag/main.qml" << true << -1 << "web_1";
+        QTest::newRow("opened on request") << "open_nag"
+                                           << "/promo/main.qml?x=1" << false << 0 << "";
+    }
+
+    void webNagsThroughTheManager()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, source);
+        QFETCH(bool, generated);
+        QFETCH(int, code);
+        QFETCH(QString, lockedAfter);
+        // Only the nags are there: the engine's question for a folder's qmldir gets a 404.
         RecordingHttpServer server;
+        const QByteArray nag(
+            "import QtQuick 2.15\nItem { width: 40; height: 30; property string nag_id: \"web_1\" }\n");
         server.setReply(RecordingHttpServer::response(404));
-        server.setReplyFor("/nag/main.qml", RecordingHttpServer::response(
-                                                200, "import QtQuick 2.15\nItem { width: 40; height: 30; "
-                                                     "property string nag_id: \"web_1\" }\n"));
-        const QString base = server.url(QStringLiteral("/nag/main.qml"))
-                                 .toString()
-                                 .replace(QLatin1String("http:"), QLatin1String("https:"));
-        customization->custom["Links/CUSTOM_WEB_NAG_URL"] = Util::QStringToUtf8(base);
+        server.setReplyFor("/nag/main.qml", RecordingHttpServer::response(200, nag));
+        server.setReplyFor("/promo/main.qml", RecordingHttpServer::response(200, nag));
+        const QString nagServer = server.url(QStringLiteral("/nag/main.qml")).toString();
+        customization->custom["Links/CUSTOM_WEB_NAG_URL"] =
+            Util::QStringToUtf8(QString(nagServer).replace(QLatin1String("http:"), QLatin1String("https:")));
         // The local server speaks plain HTTP: the switch a test run uses behind a proxy.
         Util::SetDefaultSslUsage(false);
 
-        ContentEnvironment environment;
-        environment.urlGenerator = generator();
-        environment.webTimeoutMs = 10000;
-        environment.access.hosts = QStringList{QStringLiteral("127.0.0.1")};
-        environment.access.allowHttp = true;
-        WebQuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
-                                QUrl(QStringLiteral("http://127.0.0.1:1/unused.qml")), environment);
-        content.Load();
-        QTRY_COMPARE_WITH_TIMEOUT(content.State(), ContentState::Ready, 10000);
+        const auto requests = generator();
+        const auto nextRequest = [&]() {
+            return requests->Generate(QStringLiteral("free"), action, QStringLiteral("de_DE")).toString();
+        };
+        const auto strategy = std::make_shared<PeekingStrategy>(code);
+        strategy->peek = nextRequest;
+        const auto manager = std::make_shared<NagManager>(product);
+        manager->SetWebNagUrlGenerator(requests);
+        manager->SetNagIdLockStorage(locks);
+        manager->SetAccessRules({{QStringLiteral("127.0.0.1")}, true});
+        manager->SetWebTimeout(10000);
+        manager->SetShowStrategy(strategy);
+        manager->AddNag(QStringLiteral("free"), action, server.url(source), {}, {}, 0);
+        QCOMPARE(manager->ShowNag(action), code);
         customization->custom.clear();
 
-        const auto requests = server.requestsTo("/nag/main.qml");
-        QCOMPARE(requests.size(), 1);
-        QCOMPARE(QUrl::fromEncoded(server.base().toLatin1() + requests.front().target),
-                 QUrl(expected(server.url(QStringLiteral("/nag/main.qml")).toString(), QStringLiteral("de")),
-                      QUrl::TolerantMode));
-        QCOMPARE(content.Id(), QStringLiteral("web_1"));
+        const QUrl asked = server.url(source);
+        const auto fetches = server.requestsTo(asked.path().toLatin1());
+        QCOMPARE(fetches.size(), 1);
+        const QUrl fetched = QUrl::fromEncoded(server.base().toLatin1() + fetches.front().target);
+        QCOMPARE(strategy->shown, fetched);
+        if (generated) {
+            const QUrlQuery query(fetched);
+            QCOMPARE(query.queryItemValue(QStringLiteral("app")), QStringLiteral("home-capture-desk"));
+            QCOMPARE(query.queryItemValue(QStringLiteral("app_action")), action);
+        } else {
+            QCOMPARE(fetched, asked);
+        }
+        QVERIFY2(strategy->peeked.contains(QStringLiteral("&include_id=web_1&")),
+                 qPrintable(strategy->peeked));
+        QCOMPARE(Util::Utf8ToQString(locks->getLockedNagId(Util::QStringToUtf8(action), "free")),
+                 lockedAfter);
+        QVERIFY(nextRequest().contains(QStringLiteral("&include_id=") + lockedAfter + QLatin1Char('&')));
+        locks->cleanupNagId(Util::QStringToUtf8(action), "free", std::string());
     }
 
     void languageCodes_data()
     {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("code");
-        QTest::newRow("zh_TW") << "zh_TW" << "zh_TW";
-        QTest::newRow("ru_RU") << "ru_RU" << "ru";
-        QTest::newRow("language only") << "fr" << "fr";
+        QTest::newRow("zh_TW") << "zh_TW"
+                               << "zh_TW";
+        QTest::newRow("ru_RU") << "ru_RU"
+                               << "ru";
+        QTest::newRow("language only") << "fr"
+                                       << "fr";
         QTest::newRow("one letter") << "x" << QStringLiteral("x") + QChar(0);
     }
 
@@ -187,10 +271,13 @@ private Q_SLOTS:
 
     void protocolSwitch()
     {
-        QCOMPARE(Util::ReplaceUrlProtocol(QStringLiteral("http://a.example/-X-")), QStringLiteral("https://a.example/-X-"));
+        QCOMPARE(Util::ReplaceUrlProtocol(QStringLiteral("http://a.example/-X-")),
+                 QStringLiteral("https://a.example/-X-"));
         Util::SetDefaultSslUsage(false);
-        QCOMPARE(Util::ReplaceUrlProtocol(QStringLiteral("HTTPS://a.example/")), QStringLiteral("http://a.example/"));
-        QCOMPARE(Util::ReplaceUrlProtocol(QStringLiteral("ftp://a.example/")), QStringLiteral("ftp://a.example/"));
+        QCOMPARE(Util::ReplaceUrlProtocol(QStringLiteral("HTTPS://a.example/")),
+                 QStringLiteral("http://a.example/"));
+        QCOMPARE(Util::ReplaceUrlProtocol(QStringLiteral("ftp://a.example/")),
+                 QStringLiteral("ftp://a.example/"));
         QCOMPARE(Util::ReplaceUrlProtocol(QString()), QString());
     }
 };

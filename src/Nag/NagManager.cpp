@@ -6,8 +6,10 @@
 #include "Nag/ContentFactory.h"
 #include "Nag/DefaultNagsSettings.h"
 #include "Nag/IManagerObserver.h"
+#include "Nag/INagIdLockStorage.h"
 #include "Nag/IShowStrategy.h"
 #include "Nag/IWebNagUrlGenerator.h"
+#include "Nag/WebQuickContent.h"
 #include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
@@ -53,7 +55,9 @@ public:
     QString module;
     std::function<QString()> locale;
     std::shared_ptr<IWebNagUrlGenerator> urlGenerator;
-    std::shared_ptr<WebConfig::INagsSettings> nagsSettings = std::make_shared<WebConfig::DefaultNagsSettings>();
+    std::shared_ptr<INagIdLockStorage> nagIdLocks;
+    std::shared_ptr<WebConfig::INagsSettings> nagsSettings =
+        std::make_shared<WebConfig::DefaultNagsSettings>();
     int webTimeoutMs = 15000;
     NagAccessRules accessRules;
     std::vector<IManagerObserver*> observers;
@@ -101,7 +105,8 @@ public:
 
     std::string dontShowKey(const QString& action, const QString& nagMode, const QString& id) const
     {
-        return utf8(QStringLiteral("dontShowNag_") + action + QLatin1Char('_') + nagMode + QLatin1Char('/') + id);
+        return utf8(QStringLiteral("dontShowNag_") + action + QLatin1Char('_') + nagMode + QLatin1Char('/') +
+                    id);
     }
 
     void rememberDontShow(const AbstractContent& content)
@@ -202,6 +207,11 @@ void NagManager::SetWebNagUrlGenerator(const std::shared_ptr<IWebNagUrlGenerator
     d->urlGenerator = generator;
 }
 
+void NagManager::SetNagIdLockStorage(const std::shared_ptr<INagIdLockStorage>& storage)
+{
+    d->nagIdLocks = storage;
+}
+
 void NagManager::SetNagsSettings(const std::shared_ptr<WebConfig::INagsSettings>& settings)
 {
     d->nagsSettings = settings;
@@ -244,8 +254,9 @@ void NagManager::AddNag(const QString& mode, const QString& action, const QUrl& 
     NagRecord record;
     record.action = action;
     const QString scheme = url.scheme();
-    record.implementation = scheme == QLatin1String("http") || scheme == QLatin1String("https") ? Implementation::Web
-                                                                                                 : Implementation::Local;
+    record.implementation = scheme == QLatin1String("http") || scheme == QLatin1String("https")
+                                ? Implementation::Web
+                                : Implementation::Local;
     record.source = url.toString();
     record.id = Util::Utf8ToQString(nagId);
     record.name = Util::Utf8ToQString(nagName);
@@ -311,10 +322,12 @@ int NagManager::ShowNag(const QString& action)
         LOG(INFO) << "No nag to show for action " << utf8(action) << " in mode " << utf8(self->mode);
         return -1;
     }
-    const std::optional<NagRecord> record = self->config ? self->config->Find(self->mode, action) : std::nullopt;
-    const Implementation implementation = overridden || !record ? Implementation::Local : record->implementation;
-    const std::unique_ptr<AbstractContent> content =
-        self->factory()->Create(implementation, NagContext{action, record ? self->mode : AppMode::AnyMode(), 0});
+    const std::optional<NagRecord> record =
+        self->config ? self->config->Find(self->mode, action) : std::nullopt;
+    const Implementation implementation =
+        overridden || !record ? Implementation::Local : record->implementation;
+    const std::unique_ptr<AbstractContent> content = self->factory()->Create(
+        implementation, NagContext{action, record ? self->mode : AppMode::AnyMode(), 0});
     if (!content)
         return -1;
 
@@ -341,9 +354,24 @@ int NagManager::ShowNag(const QString& action)
                                        if (const auto alive = weak.lock())
                                            alive->storeHash(*raw);
                                    });
+    // A web nag's id is the server's promise: locked while it is on its way to the screen, so that
+    // a show cut short (a failure, the program ending) makes the next request ask for it again.
+    const auto locks = self->nagIdLocks;
+    const auto* web = qobject_cast<const WebQuickContent*>(content.get());
+    const std::string promised = locks && web ? utf8(web->ReportedId()) : std::string();
+    const std::string lockAction = utf8(content->AppAction());
+    const std::string lockMode = utf8(content->AppMode());
+    if (!promised.empty())
+        locks->lockNagId(lockAction, lockMode, promised);
+
     LOG(INFO) << "Showing the nag " << utf8(content->Id()) << " for " << utf8(action);
     const int code = strategy->ShowNag(*content);
     LOG(INFO) << "The nag of " << utf8(action) << " ended with " << code;
+
+    // Seen: the promise is kept. The lock goes only while it still names this nag.
+    if (!promised.empty() && code != -1 && content->State() != ContentState::Failed &&
+        locks->getLockedNagId(lockAction, lockMode) == promised)
+        locks->cleanupNagId(lockAction, lockMode, std::string());
     return code;
 }
 

@@ -15,6 +15,7 @@ class INagsSettings;
 
 namespace Ostrel::App::NagScreen {
 
+class INagIdLockStorage;
 class IWebNagUrlGenerator;
 
 /// The product's nag manager over a nag map file (by default the built-in map of the resources).
@@ -39,6 +40,10 @@ public:
     /// The application's locale as nags should read it ("en_US" without one).
     void SetLocaleProvider(std::function<QString()> locale);
     void SetWebNagUrlGenerator(const std::shared_ptr<IWebNagUrlGenerator>& generator);
+    /// Where the id a shown web nag reports is locked until it has been on screen, so that the
+    /// server repeats a promised nag that was cut short; give the generator the same storage so
+    /// that its requests carry the lock. Without one nothing is locked.
+    void SetNagIdLockStorage(const std::shared_ptr<INagIdLockStorage>& storage);
     void SetNagsSettings(const std::shared_ptr<WebConfig::INagsSettings>& settings);
     std::shared_ptr<WebConfig::INagsSettings> GetNagsSettings() const;
     void SetWebTimeout(int milliseconds);

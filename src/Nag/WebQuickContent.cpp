@@ -9,11 +9,26 @@
 
 namespace Ostrel::App::NagScreen {
 
-WebQuickContent::WebQuickContent(const NagContext& context, const QUrl& fallbackUrl, ContentEnvironment environment,
-                                 QObject* parent)
-    : QmlContent(context, std::move(environment), parent)
-    , m_fallbackUrl(fallbackUrl)
-    , m_timeout(new QTimer(this))
+namespace {
+
+// Host, port and path: the scheme may have been lowered to http for a test run without SSL, and
+// the query is the generator's to fill.
+bool sameEndpoint(const QUrl& a, const QUrl& b)
+{
+    const auto path = [](const QUrl& url) {
+        const QString text = url.path(QUrl::FullyDecoded);
+        return text.endsWith(QLatin1Char('/')) ? text.chopped(1) : text;
+    };
+    return a.host().compare(b.host(), Qt::CaseInsensitive) == 0 && a.port(443) == b.port(443) &&
+           path(a) == path(b);
+}
+
+} // namespace
+
+WebQuickContent::WebQuickContent(const NagContext& context, const QUrl& fallbackUrl,
+                                 ContentEnvironment environment, QObject* parent)
+    : QmlContent(context, std::move(environment), parent), m_fallbackUrl(fallbackUrl),
+      m_timeout(new QTimer(this))
 {
     m_timeout->setSingleShot(true);
     connect(m_timeout, &QTimer::timeout, this, [this]() {
@@ -53,12 +68,24 @@ QQuickItem* WebQuickContent::nagItem() const
 void WebQuickContent::Load()
 {
     const auto& generator = environment().urlGenerator;
-    start(generator ? generator->Generate(GetContext()) : m_fallbackUrl);
+    if (!generator) {
+        start(m_fallbackUrl);
+        return;
+    }
+    const QUrl request = generator->Generate(GetContext());
+    start(m_fallbackUrl.isEmpty() || sameEndpoint(m_fallbackUrl, request) ? request : m_fallbackUrl);
+}
+
+QString WebQuickContent::ReportedId() const
+{
+    const QQuickItem* item = State() == ContentState::Ready ? nagItem() : nullptr;
+    return item ? item->property("nag_id").toString() : QString();
 }
 
 void WebQuickContent::LoadFromPath(const QString& path)
 {
-    start(path.startsWith(QLatin1String(":/")) ? QUrl(QLatin1String("qrc") + path) : QUrl::fromLocalFile(path));
+    start(path.startsWith(QLatin1String(":/")) ? QUrl(QLatin1String("qrc") + path)
+                                               : QUrl::fromLocalFile(path));
 }
 
 void WebQuickContent::start(const QUrl& url)

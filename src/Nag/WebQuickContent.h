@@ -6,9 +6,11 @@ class QTimer;
 
 namespace Ostrel::App::NagScreen {
 
-/// A nag fetched over HTTP, shown inside a small local QML shell. The address comes from the
-/// manager's IWebNagUrlGenerator, or from the nag map when no generator is set. A server that
-/// answers with an error, or doesn't answer within the environment's time-out, makes it Failed.
+/// A nag fetched over HTTP, shown inside a small local QML shell. A row of the nag map addressed
+/// to the nag server (the address the manager's IWebNagUrlGenerator asks, query aside) loads the
+/// generator's request, which describes the installation; any other address (a nag opened on
+/// request) loads as it stands. A server that answers with an error, or doesn't answer within the
+/// environment's time-out, makes it Failed.
 class OSTREL_NAG_EXPORT WebQuickContent : public QmlContent
 {
     Q_OBJECT
@@ -22,6 +24,9 @@ public:
     QString Type() const override;
     void Load() override;
     void LoadFromPath(const QString& path) override;
+    /// The id the loaded nag gives itself ("nag_id"), without the nag map's fallback; empty while
+    /// loading or when it names none.
+    QString ReportedId() const;
 
 protected:
     QQuickItem* nagItem() const override;

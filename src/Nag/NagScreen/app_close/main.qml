@@ -1,6 +1,8 @@
 import QtQuick 2.15
 import "TranslationUtils.js" as TU
 import "../common/qmlStyle.js" as Style
+import "../common/Fingerprint.js" as Fingerprint
+import "Fingerprints.js" as Published
 
 // Offered when a free or trial user closes the product: what the full edition adds.
 Item {
@@ -11,6 +13,9 @@ Item {
 
     readonly property string nag_id: "app_close_upgrade_1"
     readonly property string nag_name: "Upgrade on close"
+    readonly property string hash_name: "app_close_upgrade"
+    readonly property size hash_size: Fingerprint.size(TU.getCurrentLocale())
+    readonly property string nag_hash: Fingerprint.of(Published.fingerprints, TU.getCurrentLocale())
     readonly property string compareUrl: "https://go.ostrel.com/compare/?asrc=nag_app_close&mode=-APP_MODE-&-TAIL_WITH_ARGS-"
 
     function accept() { callback.Accept() }
@@ -80,6 +85,7 @@ Item {
 
         Column {
             id: body
+            objectName: "body"
             anchors { left: hero.right; right: parent.right; top: parent.top; leftMargin: 44; rightMargin: 48; topMargin: 58 }
             spacing: 16
 
@@ -111,25 +117,27 @@ Item {
                             width: 18; height: 18; radius: 9; color: "#fbe6ee"
                             Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2713"; color: "#c8457a"; font { family: Style.fontFamily; pixelSize: 12; bold: true; hintingPreference: Font.PreferNoHinting } }
                         }
-                        Text { renderType: Text.QtRendering; text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
+                        Text { renderType: Text.QtRendering; width: body.width - 28; wrapMode: Text.WordWrap; text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
                     }
                 }
             }
         }
 
-        Row {
+        // The second button goes under the first when a language's labels don't fit side by side.
+        Flow {
             id: buttons
-            anchors { left: body.left; bottom: parent.bottom; bottomMargin: 66 }
+            objectName: "buttons"
+            anchors { left: body.left; right: body.right; bottom: parent.bottom; bottomMargin: 66 }
             spacing: 14
             Rectangle {
                 id: primary
-                width: Math.max(170, primaryLabel.implicitWidth + 48); height: 44; radius: 6
+                width: Math.min(buttons.width, Math.max(170, primaryLabel.implicitWidth + 48)); height: 44; radius: 6
                 color: primaryArea.pressed ? "#a3345f" : (primaryArea.containsMouse ? "#b83d6d" : "#c8457a")
                 Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Upgrade now"); color: "#ffffff"; font { family: Style.fontFamily; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.buyNow() }
             }
             Rectangle {
-                width: Math.max(110, laterLabel.implicitWidth + 40); height: 44; radius: 6
+                width: Math.min(buttons.width, Math.max(110, laterLabel.implicitWidth + 40)); height: 44; radius: 6
                 color: laterArea.containsMouse ? "#f1f4f9" : "#ffffff"
                 border.color: "#cdd5e3"
                 Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Not now"); color: "#3b4863"; font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
@@ -140,6 +148,8 @@ Item {
         Text {
             renderType: Text.QtRendering
             anchors { left: body.left; bottom: parent.bottom; bottomMargin: 28 }
+            width: Math.min(implicitWidth, body.width - dontShowLabel.implicitWidth - 16)
+            wrapMode: Text.WordWrap
             text: TU.getLocalizedText("<a href=\"#\">Compare editions</a>")
             textFormat: Text.RichText
             linkColor: "#c8457a"
@@ -149,6 +159,7 @@ Item {
         }
         Text {
             renderType: Text.QtRendering
+            id: dontShowLabel
             anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
             text: TU.getLocalizedText("Don't show again")
             color: dontShowArea.containsMouse ? "#4a5670" : "#8a94a8"

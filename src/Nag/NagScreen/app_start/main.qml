@@ -1,6 +1,8 @@
 import QtQuick 2.15
 import "TranslationUtils.js" as TU
 import "../common/qmlStyle.js" as Style
+import "../common/Fingerprint.js" as Fingerprint
+import "Fingerprints.js" as Published
 
 // Greets the user after start and shows the three things the product is used for most.
 Item {
@@ -12,8 +14,8 @@ Item {
     readonly property string nag_id: "app_start_welcome_1"
     readonly property string nag_name: "Welcome tour"
     readonly property string hash_name: "app_start_welcome"
-    readonly property size hash_size: Qt.size(16, 8)
-    readonly property string nag_hash: "10000000000000010000000100011000000010010001000000001101010000010101110101000001001110000000000100000001010100010000000101000100"
+    readonly property size hash_size: Fingerprint.size(TU.getCurrentLocale())
+    readonly property string nag_hash: Fingerprint.of(Published.fingerprints, TU.getCurrentLocale())
     readonly property string whatsNewUrl: "https://go.ostrel.com/whats-new/?asrc=nag_app_start&-TAIL_WITH_ARGS-"
 
     function accept() { callback.Accept() }
@@ -82,6 +84,7 @@ Item {
 
         Column {
             id: body
+            objectName: "body"
             anchors { left: hero.right; right: parent.right; top: parent.top; leftMargin: 44; rightMargin: 48; topMargin: 58 }
             spacing: 16
 
@@ -113,25 +116,27 @@ Item {
                             width: 18; height: 18; radius: 9; color: "#e4edfd"
                             Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2713"; color: "#2f6fd6"; font { family: Style.fontFamily; pixelSize: 12; bold: true; hintingPreference: Font.PreferNoHinting } }
                         }
-                        Text { renderType: Text.QtRendering; text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
+                        Text { renderType: Text.QtRendering; width: body.width - 28; wrapMode: Text.WordWrap; text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
                     }
                 }
             }
         }
 
-        Row {
+        // The second button goes under the first when a language's labels don't fit side by side.
+        Flow {
             id: buttons
-            anchors { left: body.left; bottom: parent.bottom; bottomMargin: 66 }
+            objectName: "buttons"
+            anchors { left: body.left; right: body.right; bottom: parent.bottom; bottomMargin: 66 }
             spacing: 14
             Rectangle {
                 id: primary
-                width: Math.max(170, primaryLabel.implicitWidth + 48); height: 44; radius: 6
+                width: Math.min(buttons.width, Math.max(170, primaryLabel.implicitWidth + 48)); height: 44; radius: 6
                 color: primaryArea.pressed ? "#2257b8" : (primaryArea.containsMouse ? "#2a66d1" : "#2f6fd6")
                 Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Start capturing"); color: "#ffffff"; font { family: Style.fontFamily; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.accept() }
             }
             Rectangle {
-                width: Math.max(110, laterLabel.implicitWidth + 40); height: 44; radius: 6
+                width: Math.min(buttons.width, Math.max(110, laterLabel.implicitWidth + 40)); height: 44; radius: 6
                 color: laterArea.containsMouse ? "#f1f4f9" : "#ffffff"
                 border.color: "#cdd5e3"
                 Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Later"); color: "#3b4863"; font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
@@ -142,6 +147,8 @@ Item {
         Text {
             renderType: Text.QtRendering
             anchors { left: body.left; bottom: parent.bottom; bottomMargin: 28 }
+            width: Math.min(implicitWidth, body.width - dontShowLabel.implicitWidth - 16)
+            wrapMode: Text.WordWrap
             text: TU.getLocalizedText("<a href=\"#\">See what's new in this version</a>")
             textFormat: Text.RichText
             linkColor: "#2f6fd6"
@@ -151,6 +158,7 @@ Item {
         }
         Text {
             renderType: Text.QtRendering
+            id: dontShowLabel
             anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
             text: TU.getLocalizedText("Don't show again")
             color: dontShowArea.containsMouse ? "#4a5670" : "#8a94a8"

@@ -1,6 +1,8 @@
 import QtQuick 2.15
 import "TranslationUtils.js" as TU
 import "../common/qmlStyle.js" as Style
+import "../common/Fingerprint.js" as Fingerprint
+import "Fingerprints.js" as Published
 
 // Shown before an export of the free edition: the file will be marked, the full edition removes it.
 Item {
@@ -11,6 +13,9 @@ Item {
 
     readonly property string nag_id: "before_routine_watermark_1"
     readonly property string nag_name: "Watermark before export"
+    readonly property string hash_name: "before_routine_watermark"
+    readonly property size hash_size: Fingerprint.size(TU.getCurrentLocale())
+    readonly property string nag_hash: Fingerprint.of(Published.fingerprints, TU.getCurrentLocale())
     readonly property string whyUrl: "https://go.ostrel.com/watermark/?asrc=nag_before_routine&nag=-NAG_ID-&-TAIL_WITH_ARGS-"
 
     function accept() { callback.Accept() }
@@ -80,6 +85,7 @@ Item {
 
         Column {
             id: body
+            objectName: "body"
             anchors { left: hero.right; right: parent.right; top: parent.top; leftMargin: 44; rightMargin: 48; topMargin: 58 }
             spacing: 16
 
@@ -102,19 +108,21 @@ Item {
             }
         }
 
-        Row {
+        // The second button goes under the first when a language's labels don't fit side by side.
+        Flow {
             id: buttons
-            anchors { left: body.left; bottom: parent.bottom; bottomMargin: 66 }
+            objectName: "buttons"
+            anchors { left: body.left; right: body.right; bottom: parent.bottom; bottomMargin: 66 }
             spacing: 14
             Rectangle {
                 id: primary
-                width: Math.max(170, primaryLabel.implicitWidth + 48); height: 44; radius: 6
+                width: Math.min(buttons.width, Math.max(170, primaryLabel.implicitWidth + 48)); height: 44; radius: 6
                 color: primaryArea.pressed ? "#0d6b5c" : (primaryArea.containsMouse ? "#117d6b" : "#138a76")
                 Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Remove watermark"); color: "#ffffff"; font { family: Style.fontFamily; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.buyNow() }
             }
             Rectangle {
-                width: Math.max(110, laterLabel.implicitWidth + 40); height: 44; radius: 6
+                width: Math.min(buttons.width, Math.max(110, laterLabel.implicitWidth + 40)); height: 44; radius: 6
                 color: laterArea.containsMouse ? "#f1f4f9" : "#ffffff"
                 border.color: "#cdd5e3"
                 Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Export with watermark"); color: "#3b4863"; font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
@@ -125,6 +133,8 @@ Item {
         Text {
             renderType: Text.QtRendering
             anchors { left: body.left; bottom: parent.bottom; bottomMargin: 28 }
+            width: Math.min(implicitWidth, body.width - dontShowLabel.implicitWidth - 16)
+            wrapMode: Text.WordWrap
             text: TU.getLocalizedText("<a href=\"#\">Why is there a watermark?</a>")
             textFormat: Text.RichText
             linkColor: "#138a76"
@@ -134,6 +144,7 @@ Item {
         }
         Text {
             renderType: Text.QtRendering
+            id: dontShowLabel
             anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
             text: TU.getLocalizedText("Don't show again")
             color: dontShowArea.containsMouse ? "#4a5670" : "#8a94a8"
