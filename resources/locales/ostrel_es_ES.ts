@@ -123,6 +123,10 @@
         <source>Ready</source>
         <translation>Listo</translation>
     </message>
+    <message>
+        <source>Links:</source>
+        <translation>Enlaces:</translation>
+    </message>
 </context>
 <context>
     <name>Ostrel::App::ConfirmationAlertBox</name>

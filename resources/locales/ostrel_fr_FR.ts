@@ -123,6 +123,10 @@
         <source>Ready</source>
         <translation>Prêt</translation>
     </message>
+    <message>
+        <source>Links:</source>
+        <translation>Liens&#xa0;:</translation>
+    </message>
 </context>
 <context>
     <name>Ostrel::App::ConfirmationAlertBox</name>

@@ -123,6 +123,10 @@
         <source>Ready</source>
         <translation>準備完了</translation>
     </message>
+    <message>
+        <source>Links:</source>
+        <translation>リンク:</translation>
+    </message>
 </context>
 <context>
     <name>Ostrel::App::ConfirmationAlertBox</name>

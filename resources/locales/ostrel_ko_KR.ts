@@ -123,6 +123,10 @@
         <source>Ready</source>
         <translation>준비</translation>
     </message>
+    <message>
+        <source>Links:</source>
+        <translation>링크:</translation>
+    </message>
 </context>
 <context>
     <name>Ostrel::App::ConfirmationAlertBox</name>

@@ -123,6 +123,10 @@
         <source>Ready</source>
         <translation>Gotowe</translation>
     </message>
+    <message>
+        <source>Links:</source>
+        <translation>Linki:</translation>
+    </message>
 </context>
 <context>
     <name>Ostrel::App::ConfirmationAlertBox</name>

@@ -123,6 +123,10 @@
         <source>Ready</source>
         <translation>Pronto</translation>
     </message>
+    <message>
+        <source>Links:</source>
+        <translation>Links:</translation>
+    </message>
 </context>
 <context>
     <name>Ostrel::App::ConfirmationAlertBox</name>

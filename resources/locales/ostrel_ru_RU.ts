@@ -123,6 +123,10 @@
         <source>Ready</source>
         <translation>Готово</translation>
     </message>
+    <message>
+        <source>Links:</source>
+        <translation>Ссылки:</translation>
+    </message>
 </context>
 <context>
     <name>Ostrel::App::ConfirmationAlertBox</name>

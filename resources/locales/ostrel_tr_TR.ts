@@ -123,6 +123,10 @@
         <source>Ready</source>
         <translation>Hazır</translation>
     </message>
+    <message>
+        <source>Links:</source>
+        <translation>Bağlantılar:</translation>
+    </message>
 </context>
 <context>
     <name>Ostrel::App::ConfirmationAlertBox</name>

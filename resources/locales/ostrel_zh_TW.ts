@@ -123,6 +123,10 @@
         <source>Ready</source>
         <translation>就緒</translation>
     </message>
+    <message>
+        <source>Links:</source>
+        <translation>連結：</translation>
+    </message>
 </context>
 <context>
     <name>Ostrel::App::ConfirmationAlertBox</name>
