@@ -23,6 +23,8 @@ private Q_SLOTS:
         const QString printed = host.standardOutput();
         for (const char* option : {"--test-help Show help for test options", "--test-nag-screens "})
             QVERIFY2(printed.contains(QLatin1String(option)), qPrintable(printed));
+        // The nag and URL tests both take the locales; the table names the option once.
+        QCOMPARE(printed.count(QLatin1String("--test-custom-locales ")), 1);
     }
 };
 

@@ -25,7 +25,7 @@ using namespace Ostrel::Test;
 namespace {
 
 // The option table as the help dialog must list it: first names only, registration order, the
-// crash texts filled in.
+// crash texts filled in, the locales option that the URL and nag tests share named once.
 const char* const kFullHelp =
     "--test-help Show help for test options\n"
     "--test-ssl-disable Use http when possible\n"
@@ -44,8 +44,7 @@ const char* const kFullHelp =
     "--test-nag-group-by-module Group nag by module\n"
     "--test-nag-screens-dir NagScreens screenshots dir\n"
     "--test-nag-path Test nag path\n"
-    "--test-nag-helper Show nag executer window\n"
-    "--test-custom-locales Set locales: en_US,ru_RU\n";
+    "--test-nag-helper Show nag executer window\n";
 
 // The sample nags of the built-in map walked in every mode ("app_start" is "any_mode" only).
 const QStringList kSampleNags{

@@ -4,6 +4,7 @@
 #include "QtUtil/AlertBox.h"
 
 #include <QCommandLineParser>
+#include <QSet>
 
 #include <cstdio>
 
@@ -50,10 +51,16 @@ QList<QCommandLineOption> TestHelp::getCLO() const
 QString TestHelp::helpText(const QList<QCommandLineOption>& options)
 {
     QString text;
+    // Tests that share an option (the nag and URL tests both take the locales) each declare it;
+    // the table names it once, where it was first registered.
+    QSet<QString> listed;
     for (const QCommandLineOption& option : options) {
         const QStringList names = option.names();
-        text += QStringLiteral("--") + (names.isEmpty() ? QString() : names.first()) + QLatin1Char(' ') +
-                option.description() + QLatin1Char('\n');
+        const QString name = names.isEmpty() ? QString() : names.first();
+        if (listed.contains(name))
+            continue;
+        listed.insert(name);
+        text += QStringLiteral("--") + name + QLatin1Char(' ') + option.description() + QLatin1Char('\n');
     }
     return text;
 }
