@@ -2,6 +2,9 @@
 
 #include <glog/logging.h>
 
+// After glog: windows.h defines ERROR, which glog refuses to follow.
+#include "Ipc/UserIdentityCore_win.h"
+
 #include <QLocalSocket>
 #include <QObject>
 #include <QWinEventNotifier>
@@ -14,25 +17,6 @@ namespace Ostrel::App {
 
 namespace {
 constexpr DWORD BufferSize = 64 * 1024;
-
-QString currentUserSid()
-{
-    HANDLE token = nullptr;
-    if (!::OpenProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &token))
-        return {};
-    DWORD size = 0;
-    ::GetTokenInformation(token, TokenUser, nullptr, 0, &size);
-    QByteArray buffer(static_cast<int>(size), '\0');
-    QString sid;
-    wchar_t* text = nullptr;
-    if (size != 0 && ::GetTokenInformation(token, TokenUser, buffer.data(), size, &size) &&
-        ::ConvertSidToStringSidW(reinterpret_cast<TOKEN_USER*>(buffer.data())->User.Sid, &text)) {
-        sid = QString::fromWCharArray(text);
-        ::LocalFree(text);
-    }
-    ::CloseHandle(token);
-    return sid;
-}
 } // namespace
 
 // Qt's local server can't make the first instance exclusive nor refuse remote clients: the pipe
@@ -130,7 +114,8 @@ bool LocalListener::listen(const QString& name, QString* why)
 {
     d->name = name;
     // The user alone, with full access; nobody else, not even to look.
-    const QString sddl = QStringLiteral("D:P(A;;GA;;;%1)").arg(currentUserSid());
+    const QString sddl = QStringLiteral("D:P(A;;GA;;;%1)")
+                             .arg(QString::fromStdWString(Win32::ProcessUserSid(::GetCurrentProcess())));
     if (!::ConvertStringSecurityDescriptorToSecurityDescriptorW(
             reinterpret_cast<const wchar_t*>(sddl.utf16()), SDDL_REVISION_1, &d->descriptor, nullptr)) {
         *why = QStringLiteral("the pipe's access rules can't be made (error %1)").arg(::GetLastError());
