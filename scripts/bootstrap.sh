@@ -13,6 +13,7 @@ packages=(
   fonts-dejavu-core fonts-dejavu-extra
   clang-14 libclang-rt-14-dev
   g++-mingw-w64-x86-64-posix
+  wine64 doctest-dev
   locales tzdata
 )
 
