@@ -232,7 +232,9 @@ TEST_CASE("process map: finds its own child by path, and a child that ended has 
     CHECK(std::count(ids->begin(), ids->end(), pid) == 1);
     const ProcessImage image = ProcessImagePath(pid);
     CHECK(image.error == ERROR_SUCCESS);
-    CHECK(_wcsicmp(image.path.c_str(), ownPath().c_str()) == 0);
+    const std::wstring own = ownPath();
+    CHECK(::CompareStringOrdinal(image.path.c_str(), static_cast<int>(image.path.size()), own.c_str(),
+                                 static_cast<int>(own.size()), TRUE) == CSTR_EQUAL);
 
     // Listed, then gone before it is opened.
     ::SetEvent(quit.handle);
