@@ -13,6 +13,7 @@
 #include "Ipc/UserIdentityCore_win.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -250,7 +251,12 @@ TEST_CASE("DyLib: the DPI function of shcore.dll is found, a missing function or
     DWORD error = 0;
     HMODULE shcore = LoadDyLib("Shcore.dll", &error);
     REQUIRE(shcore);
-    CHECK(FindDyLibSymbol(shcore, "SetProcessDpiAwareness", &error) != nullptr);
+    // The DPI fix calls it with 0, "unaware": the system then scales the windows.
+    void* found = FindDyLibSymbol(shcore, "SetProcessDpiAwareness", &error);
+    REQUIRE(found != nullptr);
+    using SetProcessDpiAwarenessFn = HRESULT(WINAPI*)(int);
+    const HRESULT set = reinterpret_cast<SetProcessDpiAwarenessFn>(found)(0);
+    CHECK((SUCCEEDED(set) || set == E_ACCESSDENIED));
     CHECK(FindDyLibSymbol(shcore, "OstrelNoSuchFunction", &error) == nullptr);
     CHECK(error == ERROR_PROC_NOT_FOUND);
     FreeDyLib(shcore);
@@ -271,6 +277,9 @@ TEST_CASE("visible window: found once shown, not while hidden, not for another p
     CHECK_FALSE(HasVisibleTopLevelWindow(self));
     ::ShowWindow(window, SW_SHOWNORMAL);
     CHECK(HasVisibleTopLevelWindow(self));
+    // The waiter stopped meanwhile: the search gives up instead of reporting.
+    const std::atomic<bool> stopped{false};
+    CHECK_FALSE(HasVisibleTopLevelWindow(self, &stopped));
 
     Event ready(L"windowless"), quit(L"windowless-quit");
     Child windowless(L"idle " + ready.name + L' ' + quit.name);

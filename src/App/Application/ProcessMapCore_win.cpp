@@ -6,19 +6,12 @@ namespace Ostrel::Win32 {
 
 std::optional<std::vector<DWORD>> ProcessIds()
 {
-    // The system does not say how many there are: a full buffer may have been cut short.
-    std::vector<DWORD> ids(1024);
-    for (;;) {
-        DWORD bytes = 0;
-        const DWORD capacity = static_cast<DWORD>(ids.size() * sizeof(DWORD));
-        if (!::K32EnumProcesses(ids.data(), capacity, &bytes))
-            return std::nullopt;
-        if (bytes < capacity) {
-            ids.resize(bytes / sizeof(DWORD));
-            return ids;
-        }
-        ids.resize(ids.size() * 2);
-    }
+    // A 4,096-byte buffer: at most 1,024 processes are seen.
+    DWORD ids[1024];
+    DWORD bytes = 0;
+    if (!::K32EnumProcesses(ids, sizeof(ids), &bytes))
+        return std::nullopt;
+    return std::vector<DWORD>(ids, ids + bytes / sizeof(DWORD));
 }
 
 ProcessImage ProcessImagePath(DWORD id)
@@ -30,22 +23,13 @@ ProcessImage ProcessImagePath(DWORD id)
         image.error = ::GetLastError();
         return image;
     }
-    std::wstring path(MAX_PATH, L'\0');
-    for (;;) {
-        const DWORD length =
-            ::K32GetModuleFileNameExW(process, nullptr, path.data(), static_cast<DWORD>(path.size()));
-        if (length == 0) {
-            image.error = ::GetLastError();
-            break;
-        }
-        // A path that filled the buffer may have been cut: long paths exceed MAX_PATH.
-        if (length < path.size() - 1 || path.size() >= 32768) {
-            path.resize(length);
-            image.path = std::move(path);
-            break;
-        }
-        path.resize(path.size() * 2);
-    }
+    // MAX_PATH wide characters: a longer path comes back cut.
+    wchar_t path[MAX_PATH] = {};
+    const DWORD length = ::K32GetModuleFileNameExW(process, nullptr, path, MAX_PATH);
+    if (length == 0)
+        image.error = ::GetLastError();
+    else
+        image.path.assign(path, length);
     ::CloseHandle(process);
     return image;
 }

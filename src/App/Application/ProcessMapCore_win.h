@@ -9,8 +9,8 @@
 // The running processes, in Windows API terms only.
 namespace Ostrel::Win32 {
 
-/// The ids of the running processes in the order the system gives them; nullopt when the
-/// listing failed.
+/// The ids of the running processes in the order the system gives them, at most 1,024; nullopt
+/// when the listing failed.
 std::optional<std::vector<DWORD>> ProcessIds();
 
 struct ProcessImage
@@ -21,7 +21,7 @@ struct ProcessImage
     DWORD error = ERROR_SUCCESS;
 };
 
-/// The full path of the executable of process `id`.
+/// The full path of the executable of process `id`, cut at MAX_PATH characters.
 ProcessImage ProcessImagePath(DWORD id);
 
 } // namespace Ostrel::Win32

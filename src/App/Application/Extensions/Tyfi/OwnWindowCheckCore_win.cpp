@@ -6,12 +6,15 @@ namespace {
 struct Search
 {
     DWORD processId;
+    const std::atomic<bool>* keepLooking;
     bool found;
 };
 
 BOOL CALLBACK checkWindow(HWND window, LPARAM context)
 {
     auto& search = *reinterpret_cast<Search*>(context);
+    if (search.keepLooking && !*search.keepLooking)
+        return FALSE;
     if (!::IsWindowVisible(window))
         return TRUE;
     DWORD owner = 0;
@@ -21,9 +24,9 @@ BOOL CALLBACK checkWindow(HWND window, LPARAM context)
 }
 } // namespace
 
-bool HasVisibleTopLevelWindow(DWORD processId)
+bool HasVisibleTopLevelWindow(DWORD processId, const std::atomic<bool>* keepLooking)
 {
-    Search search = {processId, false};
+    Search search = {processId, keepLooking, false};
     ::EnumWindows(&checkWindow, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }

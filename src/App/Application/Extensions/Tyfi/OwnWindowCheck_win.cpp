@@ -8,7 +8,7 @@ void PrepareOwnWindowCheck() {}
 
 void CheckForOwnWindow(std::atomic<bool>& waiting)
 {
-    if (waiting && Win32::HasVisibleTopLevelWindow(::GetCurrentProcessId()))
+    if (waiting && Win32::HasVisibleTopLevelWindow(::GetCurrentProcessId(), &waiting))
         waiting = false;
 }
 
