@@ -2,8 +2,8 @@
 # The Windows test program: the Win32 cores of the Windows seams (the *Core_win.cpp files, and the
 # gesture calls, which are Win32 only already) built by Debian's MinGW-w64 cross compiler against
 # Debian's doctest, and run under Wine in a private prefix made here and removed afterwards, on a
-# private X display unless one is given (the window cases need one). Prints one line per case and how long each step
-# took; exits non-zero when the program does not build or a case fails.
+# private X display unless one is given (the window cases need one). Prints one line per case and
+# how long each step took; exits non-zero when the program does not build or a case fails.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 cxx=${MINGW_CXX:-x86_64-w64-mingw32-g++-posix}
@@ -20,6 +20,7 @@ if [ -z "${DISPLAY:-}" ]; then
 fi
 
 work=$(mktemp -d)
+# Without .NET and the HTML engine, Wine never offers to download them while it makes the prefix.
 export WINEPREFIX=$work/prefix WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
 cleanup() {
   "$wineserver" -k 2>/dev/null || true
@@ -37,8 +38,8 @@ ln -s /usr/include/doctest "$work/include/doctest"
 start=$SECONDS
 sources=(wintests/WinCoresTest.cpp src/App/Application/Gesture/IPlatformApi.cpp
          src/App/Application/Gesture/IPlatformApi_win.cpp)
-while IFS= read -r core; do sources+=("$core"); done < <(cd "$root" && ls src/*/*Core_win.cpp src/*/*/*Core_win.cpp \
-  src/*/*/*/*/*Core_win.cpp 2>/dev/null)
+while IFS= read -r core; do sources+=("$core"); done < <(cd "$root" && git ls-files '*Core_win.cpp' 2>/dev/null ||
+  find src -name '*Core_win.cpp' | sort)
 (cd "$root" && "$cxx" -std=c++17 -O1 -Wall -Wextra -static -municode -DUNICODE -D_UNICODE \
   -I"$root/src" -I"$work/include" "${sources[@]}" -lpsapi -ladvapi32 -luser32 -o "$work/wincores.exe")
 echo "wintest: built ${#sources[@]} files in $((SECONDS - start)) s"
