@@ -10,6 +10,7 @@
 #include "Foundation/NamedMutexCore_win.h"
 #include "Foundation/RegistryCore_win.h"
 #include "Foundation/SystemFactsCore_win.h"
+#include "Ipc/NamedPipeCore_win.h"
 #include "Ipc/UserIdentityCore_win.h"
 
 #include <algorithm>
@@ -377,6 +378,46 @@ TEST_CASE("user key of the lock and pipe names: session and SID, never a name wi
     DWORD error = 0;
     CHECK(TokenUserKey(nullptr, &error).empty());
     CHECK(error != 0);
+}
+
+TEST_CASE("request pipe: the first instance is exclusive, a client finds its own user's server")
+{
+    const std::wstring name = L"\\\\.\\pipe\\" + uniqueName(L"pipe");
+    DWORD error = 0;
+    PSECURITY_DESCRIPTOR descriptor = UserOnlyDescriptor(ProcessUserSid(::GetCurrentProcess()), &error);
+    REQUIRE(descriptor);
+    CHECK(UserOnlyDescriptor(L"", &error) == nullptr);
+
+    // Nobody listens yet: refused at once, not after the wait.
+    CHECK(ConnectPipe(name, Bound, &error) == INVALID_HANDLE_VALUE);
+    CHECK(error == ERROR_FILE_NOT_FOUND);
+
+    HANDLE server = CreatePipeInstance(name, descriptor, true, &error);
+    REQUIRE(server != INVALID_HANDLE_VALUE);
+    // Whoever made the name first keeps it: a second first instance is refused, a further one is not.
+    HANDLE second = CreatePipeInstance(name, descriptor, true, &error);
+    if (second == INVALID_HANDLE_VALUE) {
+        CHECK(error == ERROR_ACCESS_DENIED);
+    } else {
+        MESSAGE(
+            "the system makes a second first instance (Wine does): the client's check of the server's user "
+            "is what stands");
+        ::CloseHandle(second);
+    }
+
+    HANDLE client = ConnectPipe(name, Bound, &error);
+    REQUIRE(client != INVALID_HANDLE_VALUE);
+    CHECK(PipeServerIsCurrentUser(client));
+    // The only instance is taken: a second client waits, then gives up.
+    CHECK(ConnectPipe(name, 100, &error) == INVALID_HANDLE_VALUE);
+    CHECK(error == ERROR_PIPE_BUSY);
+    ::CloseHandle(client);
+
+    HANDLE further = CreatePipeInstance(name, descriptor, false, &error);
+    CHECK(further != INVALID_HANDLE_VALUE);
+    ::CloseHandle(further);
+    ::CloseHandle(server);
+    ::LocalFree(descriptor);
 }
 
 TEST_CASE("gestures: the window calls, and the default handling where gestures are not supported")

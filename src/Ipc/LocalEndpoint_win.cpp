@@ -1,8 +1,8 @@
 #include "Ipc/LocalEndpoint_p.h"
 
+#include "Ipc/NamedPipeCore_win.h"
 #include "Ipc/UserIdentityCore_win.h"
 
-#include <QDeadlineTimer>
 #include <QLocalSocket>
 
 #include <windows.h>
@@ -33,33 +33,13 @@ QString ServerName(const QString& folder, const QString& key)
 
 bool Connect(QLocalSocket& socket, const QString& name, int timeoutMs, QString* why)
 {
-    const QDeadlineTimer deadline(timeoutMs);
-    const auto* path = reinterpret_cast<const wchar_t*>(name.utf16());
-    HANDLE pipe = INVALID_HANDLE_VALUE;
-    for (;;) {
-        // Identification only: the server may learn who we are, never act as us.
-        pipe = ::CreateFileW(path, GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
-                             FILE_FLAG_OVERLAPPED | SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION, nullptr);
-        if (pipe != INVALID_HANDLE_VALUE)
-            break;
-        const DWORD error = ::GetLastError();
-        if (error != ERROR_PIPE_BUSY || deadline.hasExpired()) {
-            *why = QStringLiteral("nobody answers at %1 (error %2)").arg(name).arg(error);
-            return false;
-        }
-        ::WaitNamedPipeW(path, static_cast<DWORD>(qMax<qint64>(1, deadline.remainingTime())));
+    DWORD error = 0;
+    HANDLE pipe = Win32::ConnectPipe(name.toStdWString(), static_cast<DWORD>(qMax(0, timeoutMs)), &error);
+    if (pipe == INVALID_HANDLE_VALUE) {
+        *why = QStringLiteral("nobody answers at %1 (error %2)").arg(name).arg(error);
+        return false;
     }
-    // A pipe of this name made first by someone else would get the request.
-    ULONG serverPid = 0;
-    HANDLE server = nullptr;
-    bool sameUser = false;
-    if (::GetNamedPipeServerProcessId(pipe, &serverPid) &&
-        (server = ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, serverPid)) != nullptr) {
-        const std::wstring serverSid = Win32::ProcessUserSid(server);
-        sameUser = !serverSid.empty() && serverSid == Win32::ProcessUserSid(::GetCurrentProcess());
-        ::CloseHandle(server);
-    }
-    if (!sameUser) {
+    if (!Win32::PipeServerIsCurrentUser(pipe)) {
         ::CloseHandle(pipe);
         *why = QStringLiteral("the server at %1 runs as another user").arg(name);
         return false;
