@@ -14,6 +14,7 @@ packages=(
   fonts-noto-cjk  # Japanese, Korean, simplified and traditional Chinese: without it those locales draw boxes
   clang-14 libclang-rt-14-dev
   g++-mingw-w64-x86-64-posix
+  wine64 doctest-dev
   locales tzdata
 )
 

@@ -1,16 +1,17 @@
 #include "Core/HardwareInfo_p.h"
 
-#include <QSettings>
+#include "Foundation/RegistryCore_win.h"
 
 namespace Ostrel::App::Platform {
 
 QByteArray readMachineId(QString* source)
 {
     *source = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Cryptography\\MachineGuid");
-    // The 64-bit view: a 32-bit build would otherwise read the redirected, empty key.
-    const QSettings cryptography(QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Cryptography"),
-                                 QSettings::Registry64Format);
-    return cryptography.value(QStringLiteral("MachineGuid")).toString().trimmed().toUtf8();
+    const Win32::RegistryText guid =
+        Win32::ReadRegistryText(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Cryptography", L"MachineGuid");
+    if (guid.error != ERROR_SUCCESS)
+        *source += QStringLiteral(" (error %1)").arg(guid.error);
+    return QString::fromStdWString(guid.text).trimmed().toUtf8();
 }
 
 } // namespace Ostrel::App::Platform

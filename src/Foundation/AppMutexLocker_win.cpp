@@ -2,9 +2,10 @@
 
 #include <glog/logging.h>
 
-#include <QString>
+// After glog: windows.h defines ERROR, which glog refuses to follow.
+#include "Foundation/NamedMutexCore_win.h"
 
-#include <windows.h>
+#include <QString>
 
 namespace Ostrel::Util::AppMutexPlatform {
 
@@ -22,26 +23,27 @@ bool acquire(const std::string& name, Handle& handle)
         else
             wide += c;
     }
-    HANDLE mutex = ::CreateMutexW(nullptr, FALSE, wide.c_str());
-    if (!mutex) {
-        LOG(WARNING) << "Cannot create the mutex " << name << ": error " << ::GetLastError();
+    const Win32::MutexClaim claim = Win32::ClaimNamedMutex(wide);
+    switch (claim.state) {
+    case Win32::MutexClaimState::Held:
+        break;
+    case Win32::MutexClaimState::HeldAbandoned:
+        LOG(WARNING) << "The mutex " << name
+                     << " was left by a process that ended without releasing it; taken over";
+        break;
+    case Win32::MutexClaimState::Taken:
+        return false;
+    case Win32::MutexClaimState::Failed:
+        LOG(WARNING) << "Cannot create the mutex " << name << ": error " << claim.error;
         return false;
     }
-    // An abandoned mutex is one whose holder died: it is ours now all the same.
-    const DWORD wait = ::WaitForSingleObject(mutex, 0);
-    if (wait != WAIT_OBJECT_0 && wait != WAIT_ABANDONED) {
-        ::CloseHandle(mutex);
-        return false;
-    }
-    handle = reinterpret_cast<Handle>(mutex);
+    handle = reinterpret_cast<Handle>(claim.handle);
     return true;
 }
 
 void release(Handle handle)
 {
-    HANDLE mutex = reinterpret_cast<HANDLE>(handle);
-    ::ReleaseMutex(mutex);
-    ::CloseHandle(mutex);
+    Win32::ReleaseNamedMutex(reinterpret_cast<HANDLE>(handle));
 }
 
 } // namespace Ostrel::Util::AppMutexPlatform

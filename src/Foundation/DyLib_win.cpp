@@ -1,8 +1,6 @@
 #include "Foundation/DyLib_p.h"
 
-#include <QString>
-
-#include <windows.h>
+#include "Foundation/DyLibCore_win.h"
 
 namespace Ostrel::Core::DyLibPlatform {
 
@@ -12,21 +10,22 @@ void* open(const std::string& name, std::string& error)
         error = "empty library name";
         return nullptr;
     }
-    const std::wstring wide = QString::fromStdString(name).toStdWString();
-    HMODULE module = ::LoadLibraryW(wide.c_str());
+    DWORD code = 0;
+    HMODULE module = Win32::LoadDyLib(name, &code);
     if (!module)
-        error = "LoadLibraryW failed with error " + std::to_string(::GetLastError());
+        error = "LoadLibraryW failed with error " + std::to_string(code);
     return module;
 }
 
 void close(void* handle)
 {
-    ::FreeLibrary(static_cast<HMODULE>(handle));
+    Win32::FreeDyLib(static_cast<HMODULE>(handle));
 }
 
 void* symbol(void* handle, const char* name)
 {
-    return reinterpret_cast<void*>(::GetProcAddress(static_cast<HMODULE>(handle), name));
+    DWORD ignored = 0;
+    return Win32::FindDyLibSymbol(static_cast<HMODULE>(handle), name, &ignored);
 }
 
 } // namespace Ostrel::Core::DyLibPlatform

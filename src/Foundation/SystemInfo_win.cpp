@@ -1,17 +1,12 @@
 #include "Foundation/SystemInfo.h"
 
-#include <windows.h>
+#include "Foundation/SystemFactsCore_win.h"
 
 namespace Ostrel::Core {
 
 int OSBits()
 {
-    if (AppBits() == 64)
-        return 64;
-    BOOL wow64 = FALSE;
-    if (!::IsWow64Process(::GetCurrentProcess(), &wow64))
-        return AppBits();
-    return wow64 ? 64 : 32;
+    return Win32::OsBits();
 }
 
 } // namespace Ostrel::Core

@@ -2,7 +2,10 @@
 
 #include "Ipc/LocalEndpoint_p.h"
 
-#include <windows.h>
+#include <glog/logging.h>
+
+// After glog: windows.h defines ERROR, which glog refuses to follow.
+#include "Foundation/NamedMutexCore_win.h"
 
 namespace Ostrel::App {
 
@@ -11,7 +14,6 @@ class InstanceLock::Impl
 public:
     QString name;
     HANDLE mutex = nullptr;
-    bool held = false;
 };
 
 // "Local\" is the session's namespace, and the name carries the session and the user's SID: one
@@ -23,27 +25,30 @@ InstanceLock::InstanceLock(const QString&, const QString& key) : d(std::make_uni
 
 InstanceLock::~InstanceLock()
 {
-    if (d->held)
-        ::ReleaseMutex(d->mutex);
     if (d->mutex)
-        ::CloseHandle(d->mutex);
+        Win32::ReleaseNamedMutex(d->mutex);
 }
 
 bool InstanceLock::tryLock(QString* why)
 {
-    if (d->held)
+    if (d->mutex)
         return true;
-    if (!d->mutex) {
-        d->mutex = ::CreateMutexW(nullptr, FALSE, reinterpret_cast<const wchar_t*>(d->name.utf16()));
-        if (!d->mutex) {
-            *why = QStringLiteral("the mutex %1 can't be made (error %2)").arg(d->name).arg(::GetLastError());
-            return false;
-        }
+    const Win32::MutexClaim claim = Win32::ClaimNamedMutex(d->name.toStdWString());
+    switch (claim.state) {
+    case Win32::MutexClaimState::HeldAbandoned:
+        LOG(WARNING) << "The primary instance ended without releasing " << d->name.toStdString()
+                     << "; this process takes over";
+        [[fallthrough]];
+    case Win32::MutexClaimState::Held:
+        d->mutex = claim.handle;
+        return true;
+    case Win32::MutexClaimState::Taken:
+        return false;
+    case Win32::MutexClaimState::Failed:
+        *why = QStringLiteral("the mutex %1 can't be made (error %2)").arg(d->name).arg(claim.error);
+        return false;
     }
-    // An abandoned mutex is one whose holder died: it is ours now all the same.
-    const DWORD wait = ::WaitForSingleObject(d->mutex, 0);
-    d->held = wait == WAIT_OBJECT_0 || wait == WAIT_ABANDONED;
-    return d->held;
+    return false;
 }
 
 } // namespace Ostrel::App

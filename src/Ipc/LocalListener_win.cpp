@@ -2,38 +2,17 @@
 
 #include <glog/logging.h>
 
+// After glog: windows.h defines ERROR, which glog refuses to follow.
+#include "Ipc/NamedPipeCore_win.h"
+#include "Ipc/UserIdentityCore_win.h"
+
 #include <QLocalSocket>
 #include <QObject>
 #include <QWinEventNotifier>
 
 #include <windows.h>
 
-#include <sddl.h>
-
 namespace Ostrel::App {
-
-namespace {
-constexpr DWORD BufferSize = 64 * 1024;
-
-QString currentUserSid()
-{
-    HANDLE token = nullptr;
-    if (!::OpenProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &token))
-        return {};
-    DWORD size = 0;
-    ::GetTokenInformation(token, TokenUser, nullptr, 0, &size);
-    QByteArray buffer(static_cast<int>(size), '\0');
-    QString sid;
-    wchar_t* text = nullptr;
-    if (size != 0 && ::GetTokenInformation(token, TokenUser, buffer.data(), size, &size) &&
-        ::ConvertSidToStringSidW(reinterpret_cast<TOKEN_USER*>(buffer.data())->User.Sid, &text)) {
-        sid = QString::fromWCharArray(text);
-        ::LocalFree(text);
-    }
-    ::CloseHandle(token);
-    return sid;
-}
-} // namespace
 
 // Qt's local server can't make the first instance exclusive nor refuse remote clients: the pipe
 // instances are made here, and each connected one is handed to a QLocalSocket.
@@ -65,15 +44,10 @@ public:
     // A new instance of the pipe, waiting for the next client.
     bool makeInstance(bool first, QString* why)
     {
-        SECURITY_ATTRIBUTES attributes = {sizeof(attributes), descriptor, FALSE};
-        const DWORD openMode =
-            PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED | (first ? FILE_FLAG_FIRST_PIPE_INSTANCE : 0);
-        pipe =
-            ::CreateNamedPipeW(reinterpret_cast<const wchar_t*>(name.utf16()), openMode,
-                               PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_WAIT | PIPE_REJECT_REMOTE_CLIENTS,
-                               PIPE_UNLIMITED_INSTANCES, BufferSize, BufferSize, 0, &attributes);
+        DWORD error = 0;
+        pipe = Win32::CreatePipeInstance(name.toStdWString(), descriptor, first, &error);
         if (pipe == INVALID_HANDLE_VALUE) {
-            *why = QStringLiteral("the pipe %1 can't be made (error %2)").arg(name).arg(::GetLastError());
+            *why = QStringLiteral("the pipe %1 can't be made (error %2)").arg(name).arg(error);
             return false;
         }
         ::ResetEvent(overlapped.hEvent);
@@ -129,11 +103,10 @@ LocalListener::~LocalListener() = default;
 bool LocalListener::listen(const QString& name, QString* why)
 {
     d->name = name;
-    // The user alone, with full access; nobody else, not even to look.
-    const QString sddl = QStringLiteral("D:P(A;;GA;;;%1)").arg(currentUserSid());
-    if (!::ConvertStringSecurityDescriptorToSecurityDescriptorW(
-            reinterpret_cast<const wchar_t*>(sddl.utf16()), SDDL_REVISION_1, &d->descriptor, nullptr)) {
-        *why = QStringLiteral("the pipe's access rules can't be made (error %1)").arg(::GetLastError());
+    DWORD error = 0;
+    d->descriptor = Win32::UserOnlyDescriptor(Win32::ProcessUserSid(::GetCurrentProcess()), &error);
+    if (!d->descriptor) {
+        *why = QStringLiteral("the pipe's access rules can't be made (error %1)").arg(error);
         return false;
     }
     d->overlapped.hEvent = ::CreateEventW(nullptr, TRUE, FALSE, nullptr);

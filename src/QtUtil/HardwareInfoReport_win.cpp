@@ -1,26 +1,17 @@
 #include "QtUtil/HardwareInfoReport_p.h"
 
-#include <QSettings>
-
-#include <windows.h>
+#include "Foundation/SystemFactsCore_win.h"
 
 namespace Ostrel::Util::Platform {
 
 QString cpuModelName()
 {
-    const QSettings cpu(
-        QStringLiteral("HKEY_LOCAL_MACHINE\\HARDWARE\\DESCRIPTION\\System\\CentralProcessor\\0"),
-        QSettings::NativeFormat);
-    return cpu.value(QStringLiteral("ProcessorNameString")).toString().trimmed();
+    return QString::fromStdWString(Win32::CpuModelName());
 }
 
 std::uint64_t totalPhysicalMemory()
 {
-    MEMORYSTATUSEX status{};
-    status.dwLength = sizeof(status);
-    if (!GlobalMemoryStatusEx(&status))
-        return 0;
-    return status.ullTotalPhys;
+    return Win32::TotalPhysicalMemory();
 }
 
 } // namespace Ostrel::Util::Platform

@@ -1,32 +1,15 @@
 #include "App/Application/Extensions/Tyfi/OwnWindowCheck_p.h"
 
-#include <windows.h>
+#include "App/Application/Extensions/Tyfi/OwnWindowCheckCore_win.h"
 
 namespace Ostrel::App {
-
-namespace {
-BOOL CALLBACK checkWindow(HWND window, LPARAM context)
-{
-    auto& waiting = *reinterpret_cast<std::atomic<bool>*>(context);
-    if (!waiting)
-        return FALSE;
-    if (!IsWindowVisible(window))
-        return TRUE;
-    DWORD processId = 0;
-    GetWindowThreadProcessId(window, &processId);
-    if (processId == GetCurrentProcessId()) {
-        waiting = false;
-        return FALSE;
-    }
-    return TRUE;
-}
-} // namespace
 
 void PrepareOwnWindowCheck() {}
 
 void CheckForOwnWindow(std::atomic<bool>& waiting)
 {
-    EnumWindows(&checkWindow, reinterpret_cast<LPARAM>(&waiting));
+    if (waiting && Win32::HasVisibleTopLevelWindow(::GetCurrentProcessId(), &waiting))
+        waiting = false;
 }
 
 } // namespace Ostrel::App
