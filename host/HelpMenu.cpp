@@ -1,10 +1,11 @@
 #include "HelpMenu.h"
 
+#include "MenuTexts.h"
+
 #include "App/Application/Application.h"
 #include "Interfaces/ILinksManager.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -12,10 +13,11 @@ using namespace Ostrel::App;
 
 void addHelpMenu(QMenuBar& menuBar, Application& application)
 {
-    QMenu* menu = menuBar.addMenu(QCoreApplication::translate("HelpMenu", "&Help"));
+    QMenu* menu = menuBar.addMenu(QString());
     menu->setObjectName(QStringLiteral("helpMenu"));
+    auto* texts = new MenuTexts(*menu, "HelpMenu", QT_TRANSLATE_NOOP("HelpMenu", "&Help"));
     const auto add = [&](const char* text, URLKeys key) {
-        QAction* action = menu->addAction(QCoreApplication::translate("HelpMenu", text));
+        QAction* action = texts->addAction(text);
         action->setObjectName(QString::fromStdString(UrlKeyNames().at(key)));
         // The manager is asked at the click: the host may replace it at any time.
         QObject::connect(action, &QAction::triggered, menu,

@@ -1,5 +1,7 @@
 #include "NagWiring.h"
 
+#include "MenuTexts.h"
+
 #include "App/Application/Application.h"
 #include "App/Application/NagScreen/DefaultActions.h"
 #include "App/Application/NagScreen/DialogStrategy.h"
@@ -221,8 +223,9 @@ void NagWiring::showAfterStart()
 
 void NagWiring::addMenu(QMenuBar& menuBar)
 {
-    QMenu* tools = menuBar.addMenu(QObject::tr("&Tools"));
-    QAction* tester = tools->addAction(QObject::tr("Nag Screen &Tester..."));
+    QMenu* tools = menuBar.addMenu(QString());
+    auto* texts = new MenuTexts(*tools, "ToolsMenu", QT_TRANSLATE_NOOP("ToolsMenu", "&Tools"));
+    QAction* tester = texts->addAction(QT_TRANSLATE_NOOP("ToolsMenu", "Nag Screen &Tester..."));
     tester->setObjectName(QStringLiteral("nagTester_action"));
     QObject::connect(tester, &QAction::triggered, &menuBar, [this, &menuBar]() {
         if (!d->tester) {

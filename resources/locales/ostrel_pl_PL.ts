@@ -281,17 +281,6 @@
     </message>
 </context>
 <context>
-    <name>QObject</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>&amp;Narzędzia</translation>
-    </message>
-    <message>
-        <source>Nag Screen &amp;Tester...</source>
-        <translation>&amp;Tester okien nag...</translation>
-    </message>
-</context>
-<context>
     <name>SharedMessages</name>
     <message numerus="yes">
         <source>NVIDIA&lt;sup&gt;&amp;reg;&lt;/sup&gt; CUDA&amp;#8482; acceleration has been disabled in NVIDIA&lt;sup&gt;&amp;reg;&lt;/sup&gt; Control Panel. To enable CUDA&amp;#8482; acceleration for %1, select &lt;b&gt;High-performance NVIDIA&lt;sup&gt;&amp;reg;&lt;/sup&gt; processor&lt;/b&gt; as your preferred graphics processor in NVIDIA&lt;sup&gt;&amp;reg;&lt;/sup&gt; Control Panel.&lt;br&gt;&lt;br&gt;&lt;a href=&quot;%2&quot; style=&quot;%3&quot;&gt;Detailed Instructions&lt;/a&gt;</source>
@@ -315,6 +304,17 @@
     <message>
         <source>Access error. Can&apos;t open picture file</source>
         <translation>Błąd dostępu. Nie można otworzyć pliku obrazu</translation>
+    </message>
+</context>
+<context>
+    <name>ToolsMenu</name>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Narzędzia</translation>
+    </message>
+    <message>
+        <source>Nag Screen &amp;Tester...</source>
+        <translation>&amp;Tester okien nag...</translation>
     </message>
 </context>
 <context>
