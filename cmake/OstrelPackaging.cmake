@@ -29,6 +29,11 @@ set(exact_version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
 # at run time, out of its sight.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+# The runtime package's shlibs file, so that a product packaged with Debian's tools gets its
+# dependency on our libraries from dpkg-shlibdeps like on any other library; any later 1.x is
+# binary compatible with the version a product was built against.
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 
 # A description's first line is the package's summary.
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "Ostrel application shell (shared libraries)
