@@ -91,8 +91,10 @@ int main(int argc, char** argv)
     const auto nagLinks = NagScreen::fromLinksOpener(links);
     nags->SetActionStrategy(std::make_shared<NagScreen::DefaultActions>(
         links, nagLinks, customization, nullptr, nullptr, app.GetMailSettingsManager()));
-    nags->SetWebNagUrlGenerator(std::make_shared<NagScreen::WebNagUrlGenerator>(
-        app, std::make_shared<NagScreen::NagIdLockStorage>(product)));
+    // One lock storage: the manager locks the id a web nag reports, the next request asks for it.
+    const auto nagIdLocks = std::make_shared<NagScreen::NagIdLockStorage>(product);
+    nags->SetNagIdLockStorage(nagIdLocks);
+    nags->SetWebNagUrlGenerator(std::make_shared<NagScreen::WebNagUrlGenerator>(app, nagIdLocks));
     app.SetNagScreenManager(nags);
     NagScreen::setupNagScreenEventHandler(app, nullptr);
 

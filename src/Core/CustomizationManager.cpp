@@ -52,7 +52,8 @@ public:
     {
         // QSettings reports nothing for a missing file, so look first.
         if (!QFile::exists(path)) {
-            LOG(WARNING) << "Customization file " << toUtf8(path) << " not found, using defaults";
+            // Most installations carry no customization: the defaults are the usual case.
+            LOG(INFO) << "Customization file " << toUtf8(path) << " not found, using defaults";
             return;
         }
         QSettings file(path, QSettings::IniFormat);

@@ -1,5 +1,7 @@
 #include "Core/SettingsLocations.h"
 
+#include <glog/logging.h>
+
 #include <QCoreApplication>
 #include <QStandardPaths>
 
@@ -26,9 +28,15 @@ QString SettingsLocations::filePath(Scope scope)
 {
     // GenericConfigLocation rather than AppConfigLocation: the installer and the restarter find the
     // same files without a QCoreApplication named like ours.
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1Char('/') +
-           QCoreApplication::organizationName() + QLatin1Char('/') + QCoreApplication::applicationName() +
-           QLatin1Char('/') + fileName(scope);
+    const QString path = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                         QLatin1Char('/') + QCoreApplication::organizationName() + QLatin1Char('/') +
+                         QCoreApplication::applicationName() + QLatin1Char('/') + fileName(scope);
+    // A store made before the product names itself reads and writes another folder for the whole
+    // run, and the user's settings seem lost: say so where a product engineer will look.
+    if (QCoreApplication::organizationName().isEmpty())
+        LOG(WARNING) << "Settings file " << path.toStdString()
+                     << " is outside the product's folder: the organization name is not set yet";
+    return path;
 }
 
 } // namespace Ostrel::App
