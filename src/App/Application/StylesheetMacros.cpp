@@ -68,32 +68,32 @@ struct StylesheetMacros::Impl
             return true;
         }
         out->append(text.left(at));
-        int segmentWinner = winner(segmentAt(text, at), first);
+        // The segment from `at` to `next` (the next "@", or -1 for the end of the text).
+        const auto segment = [text](qsizetype from, qsizetype to) {
+            return to < 0 ? text.mid(from) : text.mid(from, to - from);
+        };
+        qsizetype next = text.indexOf(kMark, at + 1);
+        int segmentWinner = winner(segment(at, next), first);
         while (at >= 0) {
-            const qsizetype next = text.indexOf(kMark, at + 1);
-            const QStringView segment = next < 0 ? text.mid(at) : text.mid(at, next - at);
-            const int nextWinner = next < 0 ? -1 : winner(segmentAt(text, next), first);
+            const QStringView current = segment(at, next);
+            const qsizetype afterNext = next < 0 ? -1 : text.indexOf(kMark, next + 1);
+            const int nextWinner = next < 0 ? -1 : winner(segment(next, afterNext), first);
             if (segmentWinner >= 0) {
                 if (!expanded[size_t(segmentWinner)])
                     return false;
                 out->append(*expanded[size_t(segmentWinner)]);
-                out->append(segment.mid(keys[size_t(segmentWinner)].size()));
+                out->append(current.mid(keys[size_t(segmentWinner)].size()));
             } else {
                 const bool mayChangeAfter = next < 0 ? openEnd : nextWinner >= 0;
-                if (mayChangeAfter && startsLongerKey(segment))
+                if (mayChangeAfter && startsLongerKey(current))
                     return false;
-                out->append(segment);
+                out->append(current);
             }
             at = next;
+            next = afterNext;
             segmentWinner = nextWinner;
         }
         return true;
-    }
-
-    static QStringView segmentAt(QStringView text, qsizetype at)
-    {
-        const qsizetype next = text.indexOf(kMark, at + 1);
-        return next < 0 ? text.mid(at) : text.mid(at, next - at);
     }
 };
 
