@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QPixmapCache>
+#include <QProcess>
+#include <QResource>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -337,11 +339,14 @@ private slots:
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("expected");
         const QByteArray macros = R"({"all_platforms":{"all_languages":{"a":"1"},"ru_RU":{"a":"ru"}}})";
-        QTest::newRow("nothing changed") << macros << QByteArray("@a;") << QStringLiteral("en_US") << QStringLiteral("1;\n");
-        QTest::newRow("style file") << macros << QByteArray("@a!") << QStringLiteral("en_US") << QStringLiteral("1!\n");
+        QTest::newRow("nothing changed")
+            << macros << QByteArray("@a;") << QStringLiteral("en_US") << QStringLiteral("1;\n");
+        QTest::newRow("style file") << macros << QByteArray("@a!") << QStringLiteral("en_US")
+                                    << QStringLiteral("1!\n");
         QTest::newRow("macro file") << QByteArray(R"({"all_platforms":{"all_languages":{"a":"2"}}})")
                                     << QByteArray("@a;") << QStringLiteral("en_US") << QStringLiteral("2;\n");
-        QTest::newRow("locale") << macros << QByteArray("@a;") << QStringLiteral("ru_RU") << QStringLiteral("ru;\n");
+        QTest::newRow("locale") << macros << QByteArray("@a;") << QStringLiteral("ru_RU")
+                                << QStringLiteral("ru;\n");
     }
 
     void changedInputsAreComposedAgain()
@@ -367,6 +372,46 @@ private slots:
         manager->SetLocale(locale.toStdString());
         manager->ApplyTheme(description);
         QCOMPARE(sheet(*manager), expected);
+    }
+
+    // Resource texts are read as text: a "\r\n" in a theme's files composes as "\n", whether
+    // the resource is compressed or not.
+    void resourceTextsReadAsText_data()
+    {
+        QTest::addColumn<QString>("compression");
+        QTest::newRow("compressed") << QStringLiteral("-compress-algo=zlib");
+        QTest::newRow("stored") << QStringLiteral("-no-compress");
+    }
+
+    void resourceTextsReadAsText()
+    {
+        QFETCH(QString, compression);
+        QTemporaryDir dir;
+        QByteArray style;
+        for (int i = 0; i < 200; ++i)
+            style += "a { color: @c; }\r\n";
+        writeFile(dir.filePath(QStringLiteral("crlf/style.qss")), style);
+        writeFile(dir.filePath(QStringLiteral("crlf/fonts.json")),
+                  R"({"all_platforms":{"all_languages":{"c":"red"}}})");
+        writeFile(dir.filePath(QStringLiteral("crlf.qrc")),
+                  "<RCC><qresource prefix=\"/crlf\"><file alias=\"style.qss\">crlf/style.qss</file>"
+                  "<file alias=\"fonts.json\">crlf/fonts.json</file></qresource></RCC>");
+        const QString rcc = dir.filePath(QStringLiteral("crlf.rcc"));
+        QCOMPARE(QProcess::execute(QStringLiteral(OSTREL_RCC),
+                                   {QStringLiteral("-binary"), compression,
+                                    dir.filePath(QStringLiteral("crlf.qrc")), QStringLiteral("-o"), rcc}),
+                 0);
+        QVERIFY(QResource::registerResource(rcc));
+        const auto manager = realTree();
+        ILookAndFeelManager::ThemeDescription description;
+        description.macroFiles = {":/crlf/fonts.json"};
+        description.styleFiles = {":/crlf/style.qss"};
+        manager->ApplyTheme(description);
+        QResource::unregisterResource(rcc);
+        QCOMPARE(sheet(*manager), QString::fromLatin1(style)
+                                          .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+                                          .replace(QStringLiteral("@c"), QStringLiteral("red")) +
+                                      QLatin1Char('\n'));
     }
 
     void preprocessorActsAtTheNextTheme()

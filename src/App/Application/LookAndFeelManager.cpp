@@ -77,7 +77,19 @@ void addFontOnce(const QString& path)
 // The bytes of a file opened as text, or nothing when it does not open.
 std::optional<QByteArray> readText(const std::string& path)
 {
-    QFile file(Utf8ToQString(path));
+    const QString name = Utf8ToQString(path);
+    // A theme's texts live in its resources: taken from the resource in one piece rather than
+    // through a device's reads. Text mode only drops "\r" before "\n"; a text holding a "\r" at
+    // all is read through the device as before.
+    if (name.startsWith(QLatin1String(":/")) && QFileInfo(name).isFile()) {
+        const QResource resource(name);
+        QByteArray bytes = resource.uncompressedData();
+        if (!bytes.contains('\r')) {
+            bytes.detach(); // an uncompressed resource's bytes belong to the registered file
+            return bytes;
+        }
+    }
+    QFile file(name);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return std::nullopt;
     return file.readAll();
