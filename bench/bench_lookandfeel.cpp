@@ -10,7 +10,7 @@
 
 #include "App/Application/LookAndFeelManager.h"
 
-#include "ProcessCpuClock.h"
+#include "CpuClock.h"
 
 #include <benchmark/benchmark.h>
 #include <glog/logging.h>

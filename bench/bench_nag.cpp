@@ -13,7 +13,7 @@
 #include "Nag/IShowStrategy.h"
 #include "Nag/NagManager.h"
 
-#include "ProcessCpuClock.h"
+#include "CpuClock.h"
 
 #include <benchmark/benchmark.h>
 #include <glog/logging.h>
