@@ -28,6 +28,7 @@
 #include <QTranslator>
 #include <QVariantMap>
 
+#include <cstring>
 #include <map>
 #include <optional>
 #include <vector>
@@ -84,7 +85,7 @@ std::optional<QByteArray> readText(const std::string& path)
     if (name.startsWith(QLatin1String(":/")) && QFileInfo(name).isFile()) {
         const QResource resource(name);
         QByteArray bytes = resource.uncompressedData();
-        if (!bytes.contains('\r')) {
+        if (!std::memchr(bytes.constData(), '\r', size_t(bytes.size()))) {
             bytes.detach(); // an uncompressed resource's bytes belong to the registered file
             return bytes;
         }
