@@ -455,7 +455,7 @@ void LookAndFeelManager::ApplyTheme(const ThemeDescription& description)
         // Ascending key order, as if each macro were replaced in turn over the whole text: a macro
         // whose name is a prefix of another's replaces inside the longer one's occurrences too, so
         // theme authors must avoid such pairs.
-        d.m_composed = StylesheetMacros(macros).apply(text);
+        d.m_composed = StylesheetMacros(macros).apply(std::move(text));
         d.m_composedFrom = std::move(inputs);
     }
     d.m_unitedStylesheet = d.m_composed;

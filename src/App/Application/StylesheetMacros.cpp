@@ -4,6 +4,7 @@
 #include <QStringView>
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
 #include <vector>
 
@@ -32,6 +33,8 @@ struct StylesheetMacros::Impl
     std::vector<int> lengths;                     // the distinct key lengths, ascending
     std::vector<std::optional<QString>> expanded; // per key; empty when one scan can't tell
     bool scannable = true;
+    // Every expansion is decided and no longer than its key: the text can be rewritten in place.
+    bool shrinking = false;
 
     // The shortest key at index >= first that is a prefix of the segment, or -1.
     int winner(QStringView segment, int first) const
@@ -56,6 +59,63 @@ struct StylesheetMacros::Impl
                 return true;
         }
         return false;
+    }
+
+    // The winner of each segment of the whole text, in order; false when one scan can't tell.
+    bool decide(QStringView text, std::vector<int>* winners) const
+    {
+        qsizetype at = text.indexOf(kMark);
+        if (at < 0)
+            return true;
+        qsizetype next = text.indexOf(kMark, at + 1);
+        int segmentWinner = winner(segmentOf(text, at, next), 0);
+        while (at >= 0) {
+            const qsizetype afterNext = next < 0 ? -1 : text.indexOf(kMark, next + 1);
+            const int nextWinner = next < 0 ? -1 : winner(segmentOf(text, next, afterNext), 0);
+            if (segmentWinner < 0 && nextWinner >= 0 && startsLongerKey(segmentOf(text, at, next)))
+                return false;
+            winners->push_back(segmentWinner);
+            at = next;
+            next = afterNext;
+            segmentWinner = nextWinner;
+        }
+        return true;
+    }
+
+    // The decided replacements written over the text itself. Nothing written ever passes the
+    // next "@" not yet read, since no expansion is longer than its key.
+    void rewrite(QString* text, const std::vector<int>& winners) const
+    {
+        QChar* buffer = text->data();
+        const qsizetype size = text->size();
+        const QStringView view(buffer, size);
+        const qsizetype first = view.indexOf(kMark);
+        if (first < 0)
+            return;
+        qsizetype at = first;
+        qsizetype out = first;
+        qsizetype next = view.indexOf(kMark, at + 1);
+        for (const int segmentWinner : winners) {
+            const qsizetype afterNext = next < 0 ? -1 : view.indexOf(kMark, next + 1);
+            const qsizetype end = next < 0 ? size : next;
+            qsizetype from = at;
+            if (segmentWinner >= 0) {
+                const QString& value = *expanded[size_t(segmentWinner)];
+                std::copy(value.constBegin(), value.constEnd(), buffer + out);
+                out += value.size();
+                from += keys[size_t(segmentWinner)].size();
+            }
+            std::memmove(static_cast<void*>(buffer + out), buffer + from, size_t(end - from) * sizeof(QChar));
+            out += end - from;
+            at = next;
+            next = afterNext;
+        }
+        text->truncate(out);
+    }
+
+    static QStringView segmentOf(QStringView text, qsizetype from, qsizetype to)
+    {
+        return to < 0 ? text.mid(from) : text.mid(from, to - from);
     }
 
     // Appends the text with the keys from index `first` on replaced; false when one scan can't
@@ -127,6 +187,9 @@ StylesheetMacros::StylesheetMacros(const std::map<QString, QString>& macros) : d
         if (d->expand(value->second, i + 1, true, &text))
             d->expanded[size_t(i)] = std::move(text);
     }
+    d->shrinking = true;
+    for (size_t i = 0; i < d->keys.size(); ++i)
+        d->shrinking = d->shrinking && d->expanded[i] && d->expanded[i]->size() <= d->keys[i].size();
 }
 
 StylesheetMacros::~StylesheetMacros() = default;
@@ -145,6 +208,20 @@ QString StylesheetMacros::apply(const QString& text, bool* onePass) const
     if (onePass)
         *onePass = false;
     return applyInOrder(text, d->macros);
+}
+
+QString StylesheetMacros::apply(QString&& text, bool* onePass) const
+{
+    if (d->scannable && d->shrinking) {
+        std::vector<int> winners;
+        if (d->decide(text, &winners)) {
+            d->rewrite(&text, winners);
+            if (onePass)
+                *onePass = true;
+            return std::move(text);
+        }
+    }
+    return apply(static_cast<const QString&>(text), onePass);
 }
 
 QString StylesheetMacros::applyInOrder(QString text, const std::map<QString, QString>& macros)

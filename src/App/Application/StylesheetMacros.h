@@ -31,6 +31,8 @@ public:
     /// The text with every macro replaced. `onePass`, when given, tells whether the single scan
     /// decided it (false: the ordered replacement did).
     QString apply(const QString& text, bool* onePass = nullptr) const;
+    /// The same, rewriting the text in place when no expansion is longer than its macro's name.
+    QString apply(QString&& text, bool* onePass = nullptr) const;
 
     /// The reference: one full replacement pass per macro, in ascending key order.
     static QString applyInOrder(QString text, const std::map<QString, QString>& macros);
