@@ -91,7 +91,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     }
     const size_t styleStart = std::min(split + 1, size);
     const QString style = QString::fromUtf8(bytes + styleStart, int(size - styleStart));
-    if (App::StylesheetMacros(macros).apply(style) != App::StylesheetMacros::applyInOrder(style, macros))
+    const App::StylesheetMacros scan(macros);
+    const QString expected = App::StylesheetMacros::applyInOrder(style, macros);
+    if (scan.apply(style) != expected || scan.apply(QString(style)) != expected)
         std::abort();
     return 0;
 }
