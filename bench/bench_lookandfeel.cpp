@@ -1,10 +1,16 @@
 // SetTheme and SetLocale on the generated resource tree and on a large synthetic theme (a 200 KB
 // stylesheet, 200 macros), each beside the raw cost of reading and registering the same files.
 // Read the ratios pairwise: BM_SetTheme_X / BM_RawTheme_X and BM_SetLocale / BM_RawLocale.
+// BM_ComposeSynthetic composes the synthetic sheet afresh (no earlier composition to reuse) and
+// BM_QtApplySynthetic is Qt applying the composed text to a window of 100 widgets: composing
+// should be a small part of what a theme switch costs the application anyway. Times are the
+// process's CPU time.
 //
 //   bench_lookandfeel <build folder>    (default: the folder above the executable's bin/)
 
 #include "App/Application/LookAndFeelManager.h"
+
+#include "CpuClock.h"
 
 #include <benchmark/benchmark.h>
 #include <glog/logging.h>
@@ -14,10 +20,13 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLabel>
 #include <QProcess>
+#include <QPushButton>
 #include <QResource>
 #include <QTemporaryDir>
 #include <QTranslator>
+#include <QVBoxLayout>
 
 #include <chrono>
 
@@ -47,7 +56,8 @@ bool makeSyntheticTheme(const QString& root)
     QDir().mkpath(root + QStringLiteral("/resources/locales/en_US"));
     QJsonObject macros;
     for (int i = 0; i < 200; ++i)
-        macros.insert(QStringLiteral("macro%1x").arg(i, 3, 10, QLatin1Char('0')), QStringLiteral("#%1").arg(i * 4111, 6, 16, QLatin1Char('0')));
+        macros.insert(QStringLiteral("macro%1x").arg(i, 3, 10, QLatin1Char('0')),
+                      QStringLiteral("#%1").arg(i * 4111, 6, 16, QLatin1Char('0')));
     QJsonObject all{{QStringLiteral("all_languages"), macros}};
     QFile json(source + QStringLiteral("/fonts.json"));
     if (!json.open(QIODevice::WriteOnly))
@@ -57,7 +67,10 @@ bool makeSyntheticTheme(const QString& root)
     QByteArray style;
     for (int i = 0; style.size() < 200 * 1024; ++i)
         style += QStringLiteral("QWidget#w%1 { color: @macro%2x; background: @macro%3x; }\n")
-                     .arg(i).arg(i % 200, 3, 10, QLatin1Char('0')).arg((i * 7) % 200, 3, 10, QLatin1Char('0')).toUtf8();
+                     .arg(i)
+                     .arg(i % 200, 3, 10, QLatin1Char('0'))
+                     .arg((i * 7) % 200, 3, 10, QLatin1Char('0'))
+                     .toUtf8();
     QFile qss(source + QStringLiteral("/style.qss"));
     if (!qss.open(QIODevice::WriteOnly))
         return false;
@@ -66,24 +79,26 @@ bool makeSyntheticTheme(const QString& root)
     QFile qrc(source + QStringLiteral("/big.qrc"));
     if (!qrc.open(QIODevice::WriteOnly))
         return false;
-    qrc.write("<RCC><qresource prefix=\"/big\"><file>style.qss</file><file>fonts.json</file></qresource></RCC>\n");
+    qrc.write(
+        "<RCC><qresource prefix=\"/big\"><file>style.qss</file><file>fonts.json</file></qresource></RCC>\n");
     qrc.close();
     QFile title(theme + QStringLiteral("/theme.title"));
     if (!title.open(QIODevice::WriteOnly))
         return false;
     title.write("en_US = Big\n");
     title.close();
-    return QProcess::execute(QStringLiteral("rcc"), {QStringLiteral("-binary"), source + QStringLiteral("/big.qrc"),
-                                                     QStringLiteral("-o"), theme + QStringLiteral("/big.rcc")}) == 0;
+    return QProcess::execute(QStringLiteral("rcc"),
+                             {QStringLiteral("-binary"), source + QStringLiteral("/big.qrc"),
+                              QStringLiteral("-o"), theme + QStringLiteral("/big.rcc")}) == 0;
 }
 
 // What any theme switch costs at least: register the files and read every text in them.
 void rawTheme(benchmark::State& state, const QString& root, const QString& theme)
 {
-    const QFileInfoList files =
-        QDir(root + QStringLiteral("/resources/themes/") + theme).entryInfoList({QStringLiteral("*.rcc")}, QDir::Files);
+    const QFileInfoList files = QDir(root + QStringLiteral("/resources/themes/") + theme)
+                                    .entryInfoList({QStringLiteral("*.rcc")}, QDir::Files);
     for (auto _ : state) {
-        const auto start = std::chrono::steady_clock::now();
+        const auto start = ProcessCpuClock::now();
         qint64 bytes = 0;
         for (const QFileInfo& file : files) {
             QResource::registerResource(file.absoluteFilePath());
@@ -96,7 +111,7 @@ void rawTheme(benchmark::State& state, const QString& root, const QString& theme
         for (const QFileInfo& file : files)
             QResource::unregisterResource(file.absoluteFilePath());
         benchmark::DoNotOptimize(bytes);
-        state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        state.SetIterationTime(std::chrono::duration<double>(ProcessCpuClock::now() - start).count());
     }
 }
 
@@ -105,18 +120,81 @@ void managerTheme(benchmark::State& state, const QString& root, const std::strin
     App::LookAndFeelManager manager(Core::ioPath(root), "theme.title", {}, {});
     manager.SetLocale("en_US");
     for (auto _ : state) {
-        const auto start = std::chrono::steady_clock::now();
+        const auto start = ProcessCpuClock::now();
         manager.SetTheme(theme);
         manager.SetTheme(std::string());
-        state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        state.SetIterationTime(std::chrono::duration<double>(ProcessCpuClock::now() - start).count());
     }
     benchmark::DoNotOptimize(manager.GetUnitedStylesheet());
 }
 
-void BM_RawTheme_Real(benchmark::State& state) { rawTheme(state, treeRoot(), QStringLiteral("dark")); }
-void BM_SetTheme_Real(benchmark::State& state) { managerTheme(state, treeRoot(), "dark"); }
-void BM_RawTheme_Synthetic(benchmark::State& state) { rawTheme(state, syntheticRoot(), QStringLiteral("big")); }
-void BM_SetTheme_Synthetic(benchmark::State& state) { managerTheme(state, syntheticRoot(), "big"); }
+void BM_RawTheme_Real(benchmark::State& state)
+{
+    rawTheme(state, treeRoot(), QStringLiteral("dark"));
+}
+void BM_SetTheme_Real(benchmark::State& state)
+{
+    managerTheme(state, treeRoot(), "dark");
+}
+void BM_RawTheme_Synthetic(benchmark::State& state)
+{
+    rawTheme(state, syntheticRoot(), QStringLiteral("big"));
+}
+void BM_SetTheme_Synthetic(benchmark::State& state)
+{
+    managerTheme(state, syntheticRoot(), "big");
+}
+
+App::ILookAndFeelManager::ThemeDescription syntheticDescription()
+{
+    App::ILookAndFeelManager::ThemeDescription description;
+    description.styleFiles = {":/big/style.qss", ":/big/fonts_win.qss", ":/productStyle.qss",
+                              ":/productStyle_win.qss"};
+    description.macroFiles = {":/big/fonts.json"};
+    description.fontManifestFiles = {":/big/fonts.manifest"};
+    return description;
+}
+
+void BM_ComposeSynthetic(benchmark::State& state)
+{
+    const QString rcc = syntheticRoot() + QStringLiteral("/resources/themes/big/big.rcc");
+    QResource::registerResource(rcc);
+    const auto description = syntheticDescription();
+    for (auto _ : state) {
+        App::LookAndFeelManager manager(Core::ioPath(syntheticRoot() + QStringLiteral("/none")),
+                                        "theme.title", {}, {});
+        const auto start = ProcessCpuClock::now();
+        manager.ApplyTheme(description);
+        state.SetIterationTime(std::chrono::duration<double>(ProcessCpuClock::now() - start).count());
+    }
+    QResource::unregisterResource(rcc);
+}
+
+void BM_QtApplySynthetic(benchmark::State& state)
+{
+    const QString rcc = syntheticRoot() + QStringLiteral("/resources/themes/big/big.rcc");
+    QResource::registerResource(rcc);
+    App::LookAndFeelManager manager(Core::ioPath(syntheticRoot() + QStringLiteral("/none")), "theme.title",
+                                    {}, {});
+    manager.ApplyTheme(syntheticDescription());
+    const QString sheet = QString::fromStdString(manager.GetUnitedStylesheet());
+    QResource::unregisterResource(rcc);
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    for (int i = 0; i < 100; ++i) {
+        QWidget* widget = i % 2 ? static_cast<QWidget*>(new QPushButton(QStringLiteral("Button")))
+                                : new QLabel(QStringLiteral("Label"));
+        widget->setObjectName(QStringLiteral("w%1").arg(i));
+        layout->addWidget(widget);
+    }
+    window.show();
+    for (auto _ : state) {
+        const auto start = ProcessCpuClock::now();
+        qApp->setStyleSheet(sheet);
+        state.SetIterationTime(std::chrono::duration<double>(ProcessCpuClock::now() - start).count());
+        qApp->setStyleSheet(QString());
+    }
+}
 
 void BM_RawLocale(benchmark::State& state)
 {
@@ -125,8 +203,8 @@ void BM_RawLocale(benchmark::State& state)
     for (auto _ : state) {
         const QString locale = locales.at(i++ % 2);
         QTranslator translator;
-        translator.load(treeRoot() + QStringLiteral("/resources/locales/") + locale + QStringLiteral("/ostrel_") +
-                        locale + QStringLiteral(".qm"));
+        translator.load(treeRoot() + QStringLiteral("/resources/locales/") + locale +
+                        QStringLiteral("/ostrel_") + locale + QStringLiteral(".qm"));
         QCoreApplication::installTranslator(&translator);
         QCoreApplication::removeTranslator(&translator);
     }
@@ -147,6 +225,8 @@ BENCHMARK(BM_RawTheme_Real)->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_SetTheme_Real)->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_RawTheme_Synthetic)->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_SetTheme_Synthetic)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_ComposeSynthetic)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_QtApplySynthetic)->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(20);
 BENCHMARK(BM_RawLocale)->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_SetLocale)->Unit(benchmark::kMicrosecond);
 

@@ -1,15 +1,21 @@
 // The composition of a united stylesheet from an arbitrary "fonts.json" and style text. The
 // input is split at the first NUL byte: the macro file before it, the stylesheet after it.
+// Beside the manager's own run, the macros of every block are replaced in one scan and in the
+// ordered replacement; a difference aborts.
 
 #include "App/Application/LookAndFeelManager.h"
+#include "App/Application/StylesheetMacros.h"
 
 #include <glog/logging.h>
 
 #include <QApplication>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include <cstdint>
+#include <cstdlib>
 #include <memory>
 
 using namespace Ostrel;
@@ -28,8 +34,9 @@ Fixture& fixture()
 {
     static Fixture* f = [] {
         auto* created = new Fixture;
-        created->manager = std::make_unique<App::LookAndFeelManager>(Core::ioPath(created->dir.path()), "theme.title",
-                                                                     std::list<std::string>(), std::list<std::string>());
+        created->manager =
+            std::make_unique<App::LookAndFeelManager>(Core::ioPath(created->dir.path()), "theme.title",
+                                                      std::list<std::string>(), std::list<std::string>());
         created->macros = created->dir.filePath(QStringLiteral("fonts.json"));
         created->style = created->dir.filePath(QStringLiteral("style.qss"));
         return created;
@@ -72,5 +79,21 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     description.styleFiles = {f.style.toStdString(), ":/productStyle.qss"};
     f.manager->ApplyTheme(description);
     f.manager->GetUnitedStylesheet();
+
+    std::map<QString, QString> macros;
+    const QJsonObject root = QJsonDocument::fromJson(QByteArray(bytes, int(split))).object();
+    for (const QJsonValue& section : root) {
+        for (const QJsonValue& block : section.toObject()) {
+            const QVariantMap values = block.toObject().toVariantMap();
+            for (auto it = values.cbegin(); it != values.cend(); ++it)
+                macros[QLatin1Char('@') + it.key()] = it.value().toString();
+        }
+    }
+    const size_t styleStart = std::min(split + 1, size);
+    const QString style = QString::fromUtf8(bytes + styleStart, int(size - styleStart));
+    const App::StylesheetMacros scan(macros);
+    const QString expected = App::StylesheetMacros::applyInOrder(style, macros);
+    if (scan.apply(style) != expected || scan.apply(QString(style)) != expected)
+        std::abort();
     return 0;
 }

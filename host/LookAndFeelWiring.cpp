@@ -104,11 +104,9 @@ LookAndFeelWiring::LookAndFeelWiring(Application& application, QMainWindow& wind
     connect(d.handler, &LookAndFeelHandler::LocaleChanged, this, [this](const std::string& locale) {
         if (m_impl->settings)
             m_impl->settings->SetString(kLocaleKey, locale);
-        // The theme's macros may differ by language: compose again. Through the empty theme, since
-        // setting the current one again would register its resources a second time.
-        const std::string theme = m_impl->manager->GetCurrentTheme();
-        m_impl->manager->SetTheme(std::string());
-        m_impl->manager->SetTheme(theme);
+        // The theme's macros may differ by language: setting the current theme again composes
+        // anew what the locale changed, and keeps its resources registered once.
+        m_impl->manager->SetTheme(m_impl->manager->GetCurrentTheme());
     });
     connect(d.handler, &LookAndFeelHandler::ThemeChanged, this, [this](const std::string& theme) {
         if (m_impl->settings)

@@ -34,13 +34,13 @@ class Recorder : public SmallContext::Observer
 {
 public:
     explicit Recorder(std::vector<std::string>* journal, std::string name)
-        : m_journal(journal)
-        , m_name(std::move(name))
+        : m_journal(journal), m_name(std::move(name))
     {
     }
 
     void onComponentChanged(const std::shared_ptr<void>&, const std::shared_ptr<void>&) override {}
-    void onComponentChanged(const std::shared_ptr<Alpha>& newValue, const std::shared_ptr<Alpha>& oldValue) override
+    void onComponentChanged(const std::shared_ptr<Alpha>& newValue,
+                            const std::shared_ptr<Alpha>& oldValue) override
     {
         alphaChanges.emplace_back(newValue, oldValue);
         m_journal->push_back(m_name + ":alpha");
@@ -139,6 +139,26 @@ private Q_SLOTS:
         QCOMPARE(recorder.alphaChanges[2].second, second);
         QVERIFY(!seenInside); // the context held the new (null) value while the observer ran
         QCOMPARE(context.componentCount(), std::size_t(1)); // a stored null still has its node
+    }
+
+    // The fetch goes through an index by type: it must follow replacements of either type in
+    // any order, each replacement leaving one node.
+    void indexFollowsInterleavedReplacements()
+    {
+        SmallContext context;
+        const auto a1 = std::make_shared<Alpha>();
+        const auto a2 = std::make_shared<Alpha>();
+        const auto b1 = std::make_shared<Beta>();
+        context.set<Alpha>(a1);
+        context.set<Beta>(b1);
+        context.set<Alpha>(a2);
+        QCOMPARE(context.get<Alpha>(), a2);
+        QCOMPARE(context.get<Beta>(), b1);
+        context.set<Beta>(nullptr);
+        context.set<Alpha>(a1);
+        QCOMPARE(context.get<Alpha>(), a1);
+        QVERIFY(!context.get<Beta>());
+        QCOMPARE(context.componentCount(), std::size_t(2));
     }
 
     void observerOrderDuplicatesAndRemovalDuringNotification()
@@ -261,7 +281,8 @@ private Q_SLOTS:
             Core::NotNull<std::shared_ptr<Alpha>> pointer{std::shared_ptr<Alpha>()};
             QFAIL("a null pointer was accepted");
         } catch (const std::logic_error& error) {
-            QCOMPARE(QString::fromLatin1(error.what()), QStringLiteral("NotNull can not initialized by null"));
+            QCOMPARE(QString::fromLatin1(error.what()),
+                     QStringLiteral("NotNull can not initialized by null"));
         }
         const auto alpha = std::make_shared<Alpha>();
         const Core::NotNull<std::shared_ptr<Alpha>> pointer(alpha);

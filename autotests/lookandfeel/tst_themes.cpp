@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QPixmapCache>
+#include <QProcess>
+#include <QResource>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -214,6 +216,10 @@ private slots:
         const auto manager = realTree({"base"});
         manager->Initialize("en_US", theme.toStdString());
         QCOMPARE(applicationFontFamilies(), families);
+        // Once per file and process: setting the theme again adds no second copy.
+        manager->SetTheme(std::string());
+        manager->SetTheme(theme.toStdString());
+        QCOMPARE(applicationFontFamilies(), families);
         manager->SetTheme(std::string());
         QFontDatabase::removeAllApplicationFonts();
     }
@@ -325,6 +331,89 @@ private slots:
         QCOMPARE(sheet(*manager), QStringLiteral("\nsecond kept\n\n"));
     }
 
+    // A composition is reused only while its inputs stay the same.
+    void changedInputsAreComposedAgain_data()
+    {
+        QTest::addColumn<QByteArray>("macros");
+        QTest::addColumn<QByteArray>("style");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("expected");
+        const QByteArray macros = R"({"all_platforms":{"all_languages":{"a":"1"},"ru_RU":{"a":"ru"}}})";
+        QTest::newRow("nothing changed")
+            << macros << QByteArray("@a;") << QStringLiteral("en_US") << QStringLiteral("1;\n");
+        QTest::newRow("style file") << macros << QByteArray("@a!") << QStringLiteral("en_US")
+                                    << QStringLiteral("1!\n");
+        QTest::newRow("macro file") << QByteArray(R"({"all_platforms":{"all_languages":{"a":"2"}}})")
+                                    << QByteArray("@a;") << QStringLiteral("en_US") << QStringLiteral("2;\n");
+        QTest::newRow("locale") << macros << QByteArray("@a;") << QStringLiteral("ru_RU")
+                                << QStringLiteral("ru;\n");
+    }
+
+    void changedInputsAreComposedAgain()
+    {
+        QFETCH(QByteArray, macros);
+        QFETCH(QByteArray, style);
+        QFETCH(QString, locale);
+        QFETCH(QString, expected);
+        QTemporaryDir dir;
+        const QString macroFile = dir.filePath(QStringLiteral("fonts.json"));
+        const QString styleFile = dir.filePath(QStringLiteral("style.qss"));
+        writeFile(macroFile, R"({"all_platforms":{"all_languages":{"a":"1"},"ru_RU":{"a":"ru"}}})");
+        writeFile(styleFile, "@a;");
+        const auto manager = realTree();
+        manager->SetLocale("en_US");
+        ILookAndFeelManager::ThemeDescription description;
+        description.macroFiles = {macroFile.toStdString()};
+        description.styleFiles = {styleFile.toStdString()};
+        manager->ApplyTheme(description);
+        QCOMPARE(sheet(*manager), QStringLiteral("1;\n"));
+        writeFile(macroFile, macros);
+        writeFile(styleFile, style);
+        manager->SetLocale(locale.toStdString());
+        manager->ApplyTheme(description);
+        QCOMPARE(sheet(*manager), expected);
+    }
+
+    // Resource texts are read as text: a "\r\n" in a theme's files composes as "\n", whether
+    // the resource is compressed or not.
+    void resourceTextsReadAsText_data()
+    {
+        QTest::addColumn<QString>("compression");
+        QTest::newRow("compressed") << QStringLiteral("-compress-algo=zlib");
+        QTest::newRow("stored") << QStringLiteral("-no-compress");
+    }
+
+    void resourceTextsReadAsText()
+    {
+        QFETCH(QString, compression);
+        QTemporaryDir dir;
+        QByteArray style;
+        for (int i = 0; i < 200; ++i)
+            style += "a { color: @c; }\r\n";
+        writeFile(dir.filePath(QStringLiteral("crlf/style.qss")), style);
+        writeFile(dir.filePath(QStringLiteral("crlf/fonts.json")),
+                  R"({"all_platforms":{"all_languages":{"c":"red"}}})");
+        writeFile(dir.filePath(QStringLiteral("crlf.qrc")),
+                  "<RCC><qresource prefix=\"/crlf\"><file alias=\"style.qss\">crlf/style.qss</file>"
+                  "<file alias=\"fonts.json\">crlf/fonts.json</file></qresource></RCC>");
+        const QString rcc = dir.filePath(QStringLiteral("crlf.rcc"));
+        QCOMPARE(QProcess::execute(QStringLiteral(OSTREL_RCC),
+                                   {QStringLiteral("-binary"), compression,
+                                    dir.filePath(QStringLiteral("crlf.qrc")), QStringLiteral("-o"), rcc}),
+                 0);
+        QVERIFY(QResource::registerResource(rcc));
+        const auto manager = realTree();
+        ILookAndFeelManager::ThemeDescription description;
+        description.macroFiles = {":/crlf/fonts.json"};
+        description.styleFiles = {":/crlf/style.qss"};
+        manager->ApplyTheme(description);
+        QResource::unregisterResource(rcc);
+        QCOMPARE(sheet(*manager), QString::fromLatin1(style)
+                                          .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+                                          .replace(QStringLiteral("@c"), QStringLiteral("red")) +
+                                      QLatin1Char('\n'));
+    }
+
     void preprocessorActsAtTheNextTheme()
     {
         const auto manager = realTree();
@@ -395,7 +484,6 @@ private slots:
         manager.SetTheme(std::string());
     }
 
-    // Last on purpose: the second registration outlives the manager (see below).
     void themeSetTwice()
     {
         const auto manager = realTree({"base", "controls"});
@@ -407,10 +495,9 @@ private slots:
         QCOMPARE(sheet(*manager), first);
         QCOMPARE(recorder.events, (QStringList{QStringLiteral("locale:en_US"), QStringLiteral("theme:light"),
                                                QStringLiteral("theme:light")}));
-        // Registered twice, unregistered once: the resources stay. Hosts that want to recompose
-        // for a new locale clear the theme first rather than setting it again.
+        // Registered once while in use, so one unregistration takes the resources away.
         manager->SetTheme(std::string());
-        QVERIFY(QFile::exists(QStringLiteral(":/base/fonts.json")));
+        QVERIFY(!QFile::exists(QStringLiteral(":/base/fonts.json")));
         manager->UnregisterObserver(&recorder);
     }
 };

@@ -139,7 +139,13 @@ public:
 
     void write(const std::string& key, const QVariant& value)
     {
-        settings.setValue(toQString(key), value);
+        // Each write is a locked, synced, atomic save of the whole file: a value that is already
+        // there (same type, same value) is not saved again.
+        const QString name = toQString(key);
+        const QVariant stored = settings.value(name);
+        if (stored.isValid() && stored.userType() == value.userType() && stored == value)
+            return;
+        settings.setValue(name, value);
         flush();
     }
 

@@ -85,7 +85,15 @@ struct Exchange
 class HttpClient::Impl
 {
 public:
-    QNetworkAccessManager manager;
+    // Made at the first request: building one loads Qt's network bearer plugins, a few
+    // milliseconds that a client made during the start and used later need not cost the start.
+    QNetworkAccessManager& manager()
+    {
+        if (!lazyManager)
+            lazyManager = std::make_unique<QNetworkAccessManager>();
+        return *lazyManager;
+    }
+    std::unique_ptr<QNetworkAccessManager> lazyManager;
     // Callbacks are not called once the client is gone: the guard object dies with it.
     QObject guard;
 };
@@ -94,7 +102,9 @@ HttpClient::HttpClient() : d(std::make_unique<Impl>()) {}
 
 HttpClient::~HttpClient()
 {
-    const auto replies = d->manager.findChildren<QNetworkReply*>();
+    if (!d->lazyManager)
+        return;
+    const auto replies = d->lazyManager->findChildren<QNetworkReply*>();
     for (QNetworkReply* reply : replies) {
         reply->disconnect();
         reply->abort();
@@ -103,7 +113,7 @@ HttpClient::~HttpClient()
 
 QNetworkAccessManager& HttpClient::accessManager()
 {
-    return d->manager;
+    return d->manager();
 }
 
 void HttpClient::send(const HttpRequest& request, Callback done)
@@ -129,8 +139,8 @@ void HttpClient::send(const HttpRequest& request, Callback done)
         qtRequest.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));
     // The transfer timeout of Qt counts only idle time; the whole exchange is bounded below.
     QNetworkReply* reply = request.method == HttpRequest::Method::Post
-                               ? d->manager.post(qtRequest, QByteArray::fromStdString(request.body))
-                               : d->manager.get(qtRequest);
+                               ? d->manager().post(qtRequest, QByteArray::fromStdString(request.body))
+                               : d->manager().get(qtRequest);
 
     auto state = std::make_shared<Exchange>();
     state->reply = reply;

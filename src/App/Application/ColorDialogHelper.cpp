@@ -60,8 +60,15 @@ ColorDialogHelper::~ColorDialogHelper()
     const auto& settings = m_impl->settings;
     if (!settings)
         return;
-    settings->RemoveGroup(kGroup);
     const int count = QColorDialog::customCount();
+    // Every write saves the whole file: a table the settings already hold is not written again.
+    bool stored = settings->GetInt(countKey(), -1) == count;
+    for (int i = 0; stored && i < count; ++i)
+        stored = settings->GetString(colorKey(i), std::string()) ==
+                 Util::QStringToUtf8(QColorDialog::customColor(i).name());
+    if (stored)
+        return;
+    settings->RemoveGroup(kGroup);
     settings->SetInt(countKey(), count);
     for (int i = 0; i < count; ++i)
         settings->SetString(colorKey(i), Util::QStringToUtf8(QColorDialog::customColor(i).name()));

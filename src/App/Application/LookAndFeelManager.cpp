@@ -1,5 +1,7 @@
 #include "App/Application/LookAndFeelManager.h"
 
+#include "App/Application/StylesheetMacros.h"
+
 #include "Events/EventHandlerList.h"
 #include "Events/SyncExecutePolicy.h"
 #include "Foundation/DataInputString.h"
@@ -15,6 +17,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QFontDatabase>
+#include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
@@ -24,7 +28,10 @@
 #include <QTranslator>
 #include <QVariantMap>
 
+#include <cstring>
 #include <map>
+#include <optional>
+#include <vector>
 
 namespace Ostrel::App {
 
@@ -46,11 +53,62 @@ QString platformToken()
 std::list<std::string> subdirectoryNames(const QString& directory)
 {
     std::list<std::string> names;
-    const QFileInfoList entries = QDir(directory).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::NoSort);
+    const QFileInfoList entries =
+        QDir(directory).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::NoSort);
     for (const QFileInfo& entry : entries)
         names.push_back(QStringToUtf8(entry.baseName()));
     return names;
 }
+
+// A theme's fonts stay registered when the theme changes, so a font file is registered once a
+// process; only a font someone removed since (its id has no families left) is registered again.
+// Keyed by path and size: two themes' resources may carry different fonts under one ":/" path.
+void addFontOnce(const QString& path)
+{
+    static QHash<QString, int> registered;
+    const QString key = path + QLatin1Char('|') + QString::number(QFileInfo(path).size());
+    const auto it = registered.constFind(key);
+    if (it != registered.constEnd() && !QFontDatabase::applicationFontFamilies(it.value()).isEmpty())
+        return;
+    const int id = Util::FontDatabase::addApplicationFont(QStringToUtf8(path));
+    if (id >= 0)
+        registered.insert(key, id);
+}
+
+// The bytes of a file opened as text, or nothing when it does not open.
+std::optional<QByteArray> readText(const std::string& path)
+{
+    const QString name = Utf8ToQString(path);
+    // A theme's texts live in its resources: taken from the resource in one piece rather than
+    // through a device's reads. Text mode only drops "\r" before "\n"; a text holding a "\r" at
+    // all is read through the device as before.
+    if (name.startsWith(QLatin1String(":/")) && QFileInfo(name).isFile()) {
+        const QResource resource(name);
+        QByteArray bytes = resource.uncompressedData();
+        if (!std::memchr(bytes.constData(), '\r', size_t(bytes.size()))) {
+            bytes.detach(); // an uncompressed resource's bytes belong to the registered file
+            return bytes;
+        }
+    }
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return std::nullopt;
+    return file.readAll();
+}
+
+// Everything a composed stylesheet depends on before the preprocessor: the same inputs give the
+// same text, so it is not composed again.
+struct CompositionInputs
+{
+    std::string locale;
+    std::vector<std::optional<QByteArray>> macroFiles;
+    std::vector<std::optional<QByteArray>> styleFiles;
+
+    bool operator==(const CompositionInputs& other) const
+    {
+        return locale == other.locale && macroFiles == other.macroFiles && styleFiles == other.styleFiles;
+    }
+};
 
 } // namespace
 
@@ -67,6 +125,16 @@ struct LookAndFeelManager::Impl
     std::list<std::shared_ptr<QTranslator>> m_translators;
     Core::EventHandlerList<ILookAndFeelObserver, Core::SyncExecutePolicy> m_observers;
     std::shared_ptr<IQssPreprocessor> m_qssPreprocessor;
+
+    // The current theme's resource files that registered: each once while the theme is current.
+    QStringList m_registeredResources;
+    std::optional<CompositionInputs> m_composedFrom;
+    QString m_composed; // the text composed from m_composedFrom, before the preprocessor
+
+    // Worked out once: the system's languages do not change under a running application, and
+    // the locale folders are read once, like the lists of locales and themes.
+    mutable std::optional<std::list<std::string>> m_candidates;
+    std::map<std::string, QStringList> m_translationFiles;
 
     QString resourcesDir() const { return (m_path / Core::ioPath("resources")).toQString(); }
     QString themeDir(const std::string& theme) const
@@ -101,28 +169,37 @@ struct LookAndFeelManager::Impl
     void ClearCurrentTheme()
     {
         if (!m_currentTheme.empty()) {
-            const QList<QFileInfo> resources = GetFilteredResourceList();
-            for (const QFileInfo& file : resources) {
-                if (file.isFile())
-                    QResource::unregisterResource(file.absoluteFilePath(), QString());
-            }
+            for (const QString& file : std::as_const(m_registeredResources))
+                QResource::unregisterResource(file, QString());
+            m_registeredResources.clear();
             m_currentTheme.clear();
         }
         QPixmapCache::clear();
     }
 
-    QFileInfoList translationFiles() const
+    // The current locale's translation files, as absolute paths of files.
+    const QStringList& translationFiles()
     {
+        const auto known = m_translationFiles.find(m_currentLocale);
+        if (known != m_translationFiles.end())
+            return known->second;
         const QDir dir(resourcesDir() + QStringLiteral("/locales/") + Utf8ToQString(m_currentLocale));
-        if (m_resourceBaseNames.empty())
-            return dir.entryInfoList({QStringLiteral("*.qm")}, QDir::Files, QDir::NoSort);
-        QFileInfoList result;
-        for (const std::string& name : m_resourceBaseNames) {
-            const QFileInfo file(dir, Utf8ToQString(name + "_" + m_currentLocale + ".qm"));
-            if (file.exists())
-                result.append(file);
+        QFileInfoList entries;
+        if (m_resourceBaseNames.empty()) {
+            entries = dir.entryInfoList({QStringLiteral("*.qm")}, QDir::Files, QDir::NoSort);
+        } else {
+            for (const std::string& name : m_resourceBaseNames) {
+                const QFileInfo file(dir, Utf8ToQString(name + "_" + m_currentLocale + ".qm"));
+                if (file.exists())
+                    entries.append(file);
+            }
         }
-        return result;
+        QStringList files;
+        for (const QFileInfo& entry : std::as_const(entries)) {
+            if (entry.isFile())
+                files.append(entry.absoluteFilePath());
+        }
+        return m_translationFiles[m_currentLocale] = files;
     }
 
     void mergeMacros(const QVariantMap& root, const QString& section, const QString& block,
@@ -176,7 +253,8 @@ LookAndFeelManager::LookAndFeelManager(const Core::ioPath& path, const std::stri
         const QByteArray bytes = title.readAll();
         Core::Property property;
         if (!Core::PropertySerializer::Deserialize(
-                property, Core::DataInputString::Create(std::string(bytes.constData(), size_t(bytes.size()))), true))
+                property, Core::DataInputString::Create(std::string(bytes.constData(), size_t(bytes.size()))),
+                true))
             LOG(WARNING) << "The title file of theme [" << theme << "] is damaged; using what could be read";
         d.m_themeTitles[theme] = std::move(property);
     }
@@ -210,13 +288,8 @@ QStringList LookAndFeelManager::GetSystemLanguages() const
     return QLocale().uiLanguages();
 }
 
-std::string LookAndFeelManager::ValidateLocale(const std::string& requested) const
+std::list<std::string> LookAndFeelManager::systemCandidates() const
 {
-    const auto& locales = m_impl->m_locales;
-    if (!requested.empty() && requested != kUnknownLocale &&
-        std::find(locales.begin(), locales.end(), requested) != locales.end())
-        return requested;
-
     std::list<std::string> candidates;
     for (const QString& language : GetSystemLanguages()) {
         std::string candidate = QStringToUtf8(QLocale(language).name());
@@ -230,6 +303,19 @@ std::string LookAndFeelManager::ValidateLocale(const std::string& requested) con
             candidate = "zh_TW";
         candidates.push_back(candidate);
     }
+    return candidates;
+}
+
+std::string LookAndFeelManager::ValidateLocale(const std::string& requested) const
+{
+    const auto& locales = m_impl->m_locales;
+    if (!requested.empty() && requested != kUnknownLocale &&
+        std::find(locales.begin(), locales.end(), requested) != locales.end())
+        return requested;
+
+    if (!m_impl->m_candidates)
+        m_impl->m_candidates = systemCandidates();
+    const std::list<std::string>& candidates = *m_impl->m_candidates;
 
     std::string result = GetDefaultLocale();
     if (result.empty() || result == kUnknownLocale)
@@ -256,11 +342,9 @@ void LookAndFeelManager::SetLocale(const std::string& locale)
         QCoreApplication::removeTranslator(translator.get());
     d.m_translators.clear();
 
-    for (const QFileInfo& file : d.translationFiles()) {
-        if (!file.isFile())
-            continue;
+    for (const QString& file : d.translationFiles()) {
         auto translator = std::make_shared<QTranslator>();
-        if (translator->load(file.absoluteFilePath(), QString(), QString(), QString())) {
+        if (translator->load(file, QString(), QString(), QString())) {
             QCoreApplication::installTranslator(translator.get());
             d.m_translators.push_back(translator);
         }
@@ -272,8 +356,8 @@ void LookAndFeelManager::SetLocale(const std::string& locale)
 void LookAndFeelManager::SetTheme(const std::string& theme)
 {
     Impl& d = *m_impl;
-    // No early return for the current name: setting it again re-registers, recomposes and
-    // notifies, which is how a host picks up a new locale's macros.
+    // No early return for the current name: setting it again recomposes what changed (a new
+    // locale's macros) and notifies. Its resources stay registered once.
     if (theme != d.m_currentTheme)
         d.ClearCurrentTheme();
     if (theme.empty())
@@ -285,15 +369,19 @@ void LookAndFeelManager::SetTheme(const std::string& theme)
     for (const QFileInfo& file : d.GetFilteredResourceList()) {
         if (!file.isFile())
             continue;
-        QResource::registerResource(file.absoluteFilePath(), QString());
+        const QString path = file.absoluteFilePath();
+        if (!d.m_registeredResources.contains(path) && QResource::registerResource(path, QString()))
+            d.m_registeredResources.append(path);
         const QString prefix = QStringLiteral(":/") + file.baseName() + QLatin1Char('/');
         description.styleFiles.push_back(QStringToUtf8(prefix + QStringLiteral("style.qss")));
-        description.styleFiles.push_back(QStringToUtf8(prefix + QStringLiteral("fonts_") + platform + QStringLiteral(".qss")));
+        description.styleFiles.push_back(
+            QStringToUtf8(prefix + QStringLiteral("fonts_") + platform + QStringLiteral(".qss")));
         description.macroFiles.push_back(QStringToUtf8(prefix + QStringLiteral("fonts.json")));
         description.fontManifestFiles.push_back(QStringToUtf8(prefix + QStringLiteral("fonts.manifest")));
     }
     description.styleFiles.push_back(":/productStyle.qss");
-    description.styleFiles.push_back(QStringToUtf8(QStringLiteral(":/productStyle_") + platform + QStringLiteral(".qss")));
+    description.styleFiles.push_back(
+        QStringToUtf8(QStringLiteral(":/productStyle_") + platform + QStringLiteral(".qss")));
 
     ApplyTheme(description);
     d.m_observers.Notify(&ILookAndFeelObserver::OnThemeChanged, d.m_currentTheme);
@@ -319,48 +407,58 @@ void LookAndFeelManager::ApplyTheme(const ThemeDescription& description)
     Impl& d = *m_impl;
     d.m_unitedStylesheet.clear();
 
-    std::map<QString, QString> macros;
-    const QString platform = platformToken();
-    const QString allPlatforms = QStringLiteral("all_platforms");
-    const QString allLanguages = QStringLiteral("all_languages");
-    const QString locale = Utf8ToQString(d.m_currentLocale);
-    for (const std::string& path : description.macroFiles) {
-        QFile file(Utf8ToQString(path));
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-            continue;
-        QTextStream stream(&file);
-        const QVariantMap root = QJsonDocument::fromJson(stream.readAll().toLocal8Bit()).object().toVariantMap();
-        // The most specific block comes last and wins.
-        d.mergeMacros(root, allPlatforms, allLanguages, &macros);
-        d.mergeMacros(root, allPlatforms, locale, &macros);
-        d.mergeMacros(root, platform, allLanguages, &macros);
-        d.mergeMacros(root, platform, locale, &macros);
-    }
+    CompositionInputs inputs;
+    inputs.locale = d.m_currentLocale;
+    for (const std::string& path : description.macroFiles)
+        inputs.macroFiles.push_back(readText(path));
+    for (const std::string& path : description.styleFiles)
+        inputs.styleFiles.push_back(readText(path));
 
     for (const std::string& path : description.fontManifestFiles) {
-        QFile file(Utf8ToQString(path));
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        const std::optional<QByteArray> manifest = readText(path);
+        if (!manifest)
             continue;
-        QTextStream stream(&file);
+        QTextStream stream(*manifest);
         while (!stream.atEnd()) {
             QString token;
             stream >> token;
             if (!token.isEmpty())
-                Util::FontDatabase::addApplicationFont(QStringToUtf8(token));
+                addFontOnce(token);
         }
     }
 
-    for (const std::string& path : description.styleFiles) {
-        QFile file(Utf8ToQString(path));
-        if (file.open(QIODevice::ReadOnly | QIODevice::Text))
-            d.m_unitedStylesheet += QString::fromUtf8(file.readAll());
-        d.m_unitedStylesheet += QLatin1Char('\n');
-    }
+    if (!d.m_composedFrom || !(*d.m_composedFrom == inputs)) {
+        std::map<QString, QString> macros;
+        const QString platform = platformToken();
+        const QString allPlatforms = QStringLiteral("all_platforms");
+        const QString allLanguages = QStringLiteral("all_languages");
+        const QString locale = Utf8ToQString(d.m_currentLocale);
+        for (const std::optional<QByteArray>& bytes : inputs.macroFiles) {
+            if (!bytes)
+                continue;
+            QTextStream stream(*bytes);
+            const QVariantMap root =
+                QJsonDocument::fromJson(stream.readAll().toLocal8Bit()).object().toVariantMap();
+            // The most specific block comes last and wins.
+            d.mergeMacros(root, allPlatforms, allLanguages, &macros);
+            d.mergeMacros(root, allPlatforms, locale, &macros);
+            d.mergeMacros(root, platform, allLanguages, &macros);
+            d.mergeMacros(root, platform, locale, &macros);
+        }
 
-    // Ascending key order on purpose: a macro whose name is a prefix of another's replaces inside
-    // the longer one's occurrences too, so theme authors must avoid such pairs.
-    for (const auto& [key, value] : macros)
-        d.m_unitedStylesheet.replace(key, value, Qt::CaseSensitive);
+        QString text;
+        for (const std::optional<QByteArray>& bytes : inputs.styleFiles) {
+            if (bytes)
+                text += QString::fromUtf8(*bytes);
+            text += QLatin1Char('\n');
+        }
+        // Ascending key order, as if each macro were replaced in turn over the whole text: a macro
+        // whose name is a prefix of another's replaces inside the longer one's occurrences too, so
+        // theme authors must avoid such pairs.
+        d.m_composed = StylesheetMacros(macros).apply(std::move(text));
+        d.m_composedFrom = std::move(inputs);
+    }
+    d.m_unitedStylesheet = d.m_composed;
 
     if (d.m_qssPreprocessor)
         d.m_qssPreprocessor->Preprocess(d.m_unitedStylesheet);

@@ -59,6 +59,8 @@ protected:
     virtual QStringList GetSystemLanguages() const;
 
 private:
+    /// The system's languages as candidate locale names, in its order of preference.
+    std::list<std::string> systemCandidates() const;
     std::string ValidateLocale(const std::string& requested) const;
 
     struct Impl;

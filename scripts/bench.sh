@@ -1,0 +1,124 @@
+#!/usr/bin/env bash
+# Builds the benchmarks in Release in a build folder of their own, runs every one of them and
+# prints one table of the ratios the shell is held to: each measure of the shell beside a baseline
+# measured in the same run, the ratio and its goal (docs/PERFORMANCE.md says why each goal is
+# what it is). The table is also written as JSON, so that two commits can be compared.
+#
+#   BENCH_BUILD_DIR  build folder (default <repo>/build-bench)
+#   BENCH_JSON       where the table goes (default <build>/bench-table.json)
+#   BENCH_SKIP_BUILD=1  run what is already built
+#   BENCH_REPETITIONS   runs of each benchmark, the table takes the median (default 3)
+set -euo pipefail
+root=$(cd "$(dirname "$0")/.." && pwd)
+build=${BENCH_BUILD_DIR:-$root/build-bench}
+table=${BENCH_JSON:-$build/bench-table.json}
+benches=(bench_lookandfeel bench_kernel bench_gesture bench_nag bench_start)
+
+if [ "${BENCH_SKIP_BUILD:-0}" != 1 ]; then
+  "$root/scripts/bootstrap.sh"
+  generator=()
+  [ -f "$build/CMakeCache.txt" ] || generator=(-G Ninja)
+  cmake -S "$root" -B "$build" "${generator[@]}" -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF \
+    -DOSTREL_BUILD_BENCHMARKS=ON >/dev/null
+  cmake --build "$build" --target "${benches[@]}" ostrel-host ostrel_resources >&2
+fi
+
+out="$build/bench-results"
+mkdir -p "$out"
+export QT_QPA_PLATFORM=offscreen
+for bench in "${benches[@]}"; do
+  echo "== $bench" >&2
+  args=()
+  [ "$bench" = bench_lookandfeel ] && args=("$build")
+  "$build/bin/$bench" "${args[@]}" --benchmark_repetitions="${BENCH_REPETITIONS:-3}" \
+    --benchmark_report_aggregates_only=true --benchmark_out="$out/$bench.json" \
+    --benchmark_out_format=json >/dev/null 2>"$out/$bench.log"
+done
+
+python3 - "$out" "$table" <<'PY'
+import json, os, sys
+
+out, table_path = sys.argv[1], sys.argv[2]
+results = {}
+for name in os.listdir(out):
+    if name.endswith(".json"):
+        with open(os.path.join(out, name)) as f:
+            for b in json.load(f)["benchmarks"]:
+                # The median of the repetitions where there are several.
+                if b.get("run_type") == "aggregate" and b.get("aggregate_name") != "median":
+                    continue
+                # "BM_X/press:0/iterations:400/manual_time" is read as "BM_X/press:0".
+                key = "/".join(p for p in b.get("run_name", b["name"]).split("/")
+                               if p != "manual_time" and not p.startswith("iterations:"))
+                results[key] = b
+
+def time_us(name):
+    b = results[name]
+    scale = {"ns": 1e-3, "us": 1.0, "ms": 1e3, "s": 1e6}[b.get("time_unit", "ns")]
+    return b["real_time"] * scale
+
+def counter(name, key):
+    return results[name][key]
+
+def fmt_time(us):
+    if us < 1:
+        return f"{us * 1000:.1f} ns"
+    if us < 1000:
+        return f"{us:.1f} µs"
+    return f"{us / 1000:.2f} ms"
+
+rows = []
+def pair(measure, shell, baseline, what, goal):
+    try:
+        s, b = time_us(shell), time_us(baseline)
+        r = s / b
+        rows.append(dict(measure=measure, shell=fmt_time(s), baseline=f"{fmt_time(b)} {what}",
+                         ratio=round(r, 3), goal=goal, met=r <= float(goal.split()[-1].rstrip("×"))))
+    except KeyError as missing:
+        rows.append(dict(measure=measure, shell="–", baseline=f"missing {missing}", ratio=None, goal=goal, met=False))
+
+pair("SetTheme, generated tree", "BM_SetTheme_Real", "BM_RawTheme_Real", "reading and registering the same files", "≤ 3×")
+pair("SetTheme, synthetic 200 KB sheet, 200 macros", "BM_SetTheme_Synthetic", "BM_RawTheme_Synthetic", "the same", "≤ 5×")
+pair("composing the synthetic sheet afresh vs Qt applying it", "BM_ComposeSynthetic", "BM_QtApplySynthetic",
+     "QApplication::setStyleSheet, 100 widgets", "≤ 0.1×")
+pair("SetLocale", "BM_SetLocale", "BM_RawLocale", "loading and installing the same .qm", "≤ 1.5×")
+pair("fetch of the last of 21 components", "BM_ComponentFetchLast", "BM_ComponentFetchFirst", "(the first)", "≤ 3×")
+try:
+    start = results["BM_StartRatio"]
+    r = start["ratio"]
+    rows.append(dict(measure="host start, --no-start-nag --quit-after=0, CPU", shell=f"{start['host_ms']:.1f} ms",
+                     baseline=f"{start['bare_ms']:.1f} ms bare QApplication + QMainWindow with a menu",
+                     ratio=round(r, 3), goal="≤ 2×", met=r <= 2))
+    extra = start["extra_MiB"]
+    rows.append(dict(measure="host peak memory", shell=f"{start['host_MiB']:.1f} MiB", baseline=f"{start['bare_MiB']:.1f} MiB",
+                     ratio=f"+{extra:.1f} MiB", goal="≤ +12 MiB", met=extra <= 12))
+except KeyError:
+    rows.append(dict(measure="host start", shell="–", baseline="missing BM_StartRatio", ratio=None, goal="≤ 2×", met=False))
+try:
+    nag = results["BM_NagRatio"]
+    r = nag["ratio"]
+    rows.append(dict(measure="ShowNag of a local QML nag to its first frame (CPU)", shell=f"{nag['shell_ms']:.2f} ms",
+                     baseline=f"{nag['bare_ms']:.2f} ms raw QQuickWidget load to first frame", ratio=round(r, 3),
+                     goal="≤ 1.3×", met=r <= 1.3))
+except KeyError:
+    rows.append(dict(measure="ShowNag to first frame", shell="–", baseline="missing BM_NagRatio", ratio=None, goal="≤ 1.3×", met=False))
+try:
+    n = results["BM_NotifyRatio/press:0"]["ratio"]
+    rows.append(dict(measure="event guard, non-input events", shell="", baseline="QApplication::notify",
+                     ratio=round(n, 3), goal="≤ 1.03×", met=n <= 1.03))
+except KeyError:
+    pass
+allocs = [b["allocations_per_message"] for k, b in results.items() if k.startswith("BM_Decode")]
+if allocs:
+    a = max(allocs)
+    rows.append(dict(measure="gesture decode", shell=f"{a:g} allocations", baseline="", ratio=None, goal="0", met=a == 0))
+
+with open(table_path, "w") as f:
+    json.dump(rows, f, indent=1, ensure_ascii=False)
+print("| measure | shell | baseline | ratio | goal | met |")
+print("|---|---|---|---|---|---|")
+for r in rows:
+    ratio = "" if r["ratio"] is None else (r["ratio"] if isinstance(r["ratio"], str) else f"{r['ratio']:.2f}×")
+    print(f"| {r['measure']} | {r['shell']} | {r['baseline']} | {ratio} | {r['goal']} | {'yes' if r['met'] else 'NO'} |")
+print(f"\n(JSON: {table_path})")
+PY
