@@ -29,6 +29,8 @@
 #include <QVBoxLayout>
 
 #include <chrono>
+#include <memory>
+#include <vector>
 
 using namespace Ostrel;
 
@@ -198,15 +200,26 @@ void BM_QtApplySynthetic(benchmark::State& state)
 
 void BM_RawLocale(benchmark::State& state)
 {
-    const QStringList locales{QStringLiteral("de_DE"), QStringLiteral("ru_RU")};
-    int i = 0;
+    // The same files the manager loads: every .qm of the locale's folder (the shell's and Qt's own),
+    // listed once, as the manager lists them once.
+    std::vector<QStringList> files;
+    for (const QString& locale : {QStringLiteral("de_DE"), QStringLiteral("ru_RU")}) {
+        const QDir folder(treeRoot() + QStringLiteral("/resources/locales/") + locale);
+        QStringList paths;
+        for (const QString& name : folder.entryList({QStringLiteral("*.qm")}, QDir::Files))
+            paths << folder.filePath(name);
+        files.push_back(paths);
+    }
+    std::size_t i = 0;
     for (auto _ : state) {
-        const QString locale = locales.at(i++ % 2);
-        QTranslator translator;
-        translator.load(treeRoot() + QStringLiteral("/resources/locales/") + locale +
-                        QStringLiteral("/ostrel_") + locale + QStringLiteral(".qm"));
-        QCoreApplication::installTranslator(&translator);
-        QCoreApplication::removeTranslator(&translator);
+        std::vector<std::unique_ptr<QTranslator>> translators;
+        for (const QString& path : files[i++ % files.size()]) {
+            translators.push_back(std::make_unique<QTranslator>());
+            translators.back()->load(path);
+            QCoreApplication::installTranslator(translators.back().get());
+        }
+        for (const auto& translator : translators)
+            QCoreApplication::removeTranslator(translator.get());
     }
 }
 

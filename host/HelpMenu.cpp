@@ -1,13 +1,17 @@
 #include "HelpMenu.h"
 
+#include "LinksPanel.h"
 #include "MenuTexts.h"
 
 #include "App/Application/Application.h"
 #include "Interfaces/ILinksManager.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QDialog>
 #include <QMenu>
 #include <QMenuBar>
+#include <QVBoxLayout>
 
 using namespace Ostrel::App;
 
@@ -30,4 +34,24 @@ void addHelpMenu(QMenuBar& menuBar, Application& application)
     add(QT_TRANSLATE_NOOP("HelpMenu", "Community &Forum"), FORUM_URL_menu);
     add(QT_TRANSLATE_NOOP("HelpMenu", "&Home Page"), HOMEPAGE_URL_menu);
     add(QT_TRANSLATE_NOOP("HelpMenu", "&Privacy Policy"), PRIVACY_POLICY_URL);
+    menu->addSeparator();
+    // Every link the shell knows, in a window of its own made when asked for: a list view costs
+    // the start a megabyte that the first window does not need.
+    QAction* all = texts->addAction(QT_TRANSLATE_NOOP("HelpMenu", "All &Links..."));
+    all->setObjectName(QStringLiteral("allLinks_action"));
+    QObject::connect(all, &QAction::triggered, menu, [&application, &menuBar]() {
+        // A dialog, so that the theme's window colours reach it as they reach the main window.
+        auto* window = new QDialog(menuBar.window());
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->setWindowTitle(QCoreApplication::translate("HelpMenu", "Links"));
+        auto* layout = new QVBoxLayout(window);
+        layout->addWidget(new LinksPanel(
+            [&application](URLKeys key) {
+                if (const auto links = application.GetLinksManager())
+                    links->OpenUrl(key);
+            },
+            window));
+        window->resize(420, 480);
+        window->show();
+    });
 }

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-class QSplashScreen;
+class SplashWindow;
 
 /// The host's splash screen: a picture drawn at run time, shown until the shell dismisses it.
 class HostSplash : public Ostrel::App::ISplash
@@ -21,5 +21,5 @@ public:
 
 private:
     QString m_title;
-    std::unique_ptr<QSplashScreen> m_screen;
+    std::unique_ptr<SplashWindow> m_screen;
 };

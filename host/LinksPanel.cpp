@@ -11,6 +11,8 @@ LinksPanel::LinksPanel(const Opener& open, QWidget* parent) : QListWidget(parent
     // theme (the themes colour text, not the bases of item views).
     setFrameShape(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);
+    // One line of text each: the view measures one item instead of every one of them.
+    setUniformItemSizes(true);
     for (const auto& [key, name] : UrlKeyNames()) {
         auto* item = new QListWidgetItem(QString::fromStdString(name), this);
         item->setData(Qt::UserRole, static_cast<int>(key));

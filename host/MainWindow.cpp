@@ -2,7 +2,6 @@
 
 #include "GestureWiring.h"
 #include "HelpMenu.h"
-#include "LinksPanel.h"
 #include "LookAndFeelWiring.h"
 
 #include "App/Application/Application.h"
@@ -38,9 +37,7 @@ struct MainWindow::Impl
 };
 
 MainWindow::MainWindow(Application& application, QWidget* parent)
-    : QMainWindow(parent)
-    , m_impl(std::make_unique<Impl>())
-    , m_application(application)
+    : QMainWindow(parent), m_impl(std::make_unique<Impl>()), m_application(application)
 {
     Impl& d = *m_impl;
     setObjectName(QStringLiteral("mainWindow"));
@@ -82,15 +79,7 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
     addFact(d.brand, customization ? QString::fromStdString(customization->GetBrand()) : QString());
     layout->addLayout(facts);
     layout->addSpacing(8);
-    layout->addWidget(new QLabel(tr("Links:"), central));
-    // The links manager is asked at activation: the host sets it after the window exists.
-    layout->addWidget(new LinksPanel(
-                          [this](URLKeys key) {
-                              if (const auto links = m_application.GetLinksManager())
-                                  links->OpenUrl(key);
-                          },
-                          central),
-                      1);
+    layout->addStretch(1);
     setCentralWidget(central);
     new GestureWiring(this);
 
@@ -103,7 +92,8 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
     QAction* quit = d.quit = d.fileMenu->addAction(QString());
     quit->setObjectName(QStringLiteral("quitAction"));
     quit->setShortcut(QKeySequence::Quit);
-    connect(quit, &QAction::triggered, this, [this]() { m_application.get<ILifetimeManager>()->tryToQuit(); });
+    connect(quit, &QAction::triggered, this,
+            [this]() { m_application.get<ILifetimeManager>()->tryToQuit(); });
 
     retranslate();
     statusBar()->showMessage(d.ready);

@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Datenschutzerklärung</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>Alle &amp;Links...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>Bereit</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>Links:</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Privacy Policy</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>All &amp;Links...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>Ready</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>Links:</translation>
     </message>
 </context>
 <context>

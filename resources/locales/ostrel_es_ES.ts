@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>Política de pri&amp;vacidad</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>Todos los &amp;enlaces...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Enlaces</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>Listo</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>Enlaces:</translation>
     </message>
 </context>
 <context>

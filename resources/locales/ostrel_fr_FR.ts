@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Politique de confidentialité</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>Tous les &amp;liens...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Liens</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>Prêt</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>Liens&#xa0;:</translation>
     </message>
 </context>
 <context>

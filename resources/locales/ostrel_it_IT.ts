@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Informativa sulla privacy</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>Tutti i &amp;link...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Link</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>Pronto</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>Link:</translation>
     </message>
 </context>
 <context>

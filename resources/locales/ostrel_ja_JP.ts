@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>プライバシー ポリシー(&amp;P)</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>すべてのリンク(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>リンク</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>準備完了</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>リンク:</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>개인정보 처리방침(&amp;P)</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>모든 링크(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>링크</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>준비</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>링크:</translation>
     </message>
 </context>
 <context>

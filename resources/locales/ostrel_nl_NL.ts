@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Privacybeleid</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>Alle &amp;links...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>Gereed</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>Links:</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>Polityka p&amp;rywatności</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>Wszystkie &amp;linki...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Linki</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>Gotowe</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>Linki:</translation>
     </message>
 </context>
 <context>

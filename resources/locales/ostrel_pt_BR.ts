@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>Política de p&amp;rivacidade</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>Todos os &amp;links...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>Pronto</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>Links:</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>П&amp;олитика конфиденциальности</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>Все &amp;ссылки...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Ссылки</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>Готово</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>Ссылки:</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Gizlilik Politikası</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>Tüm &amp;bağlantılar...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Bağlantılar</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>Hazır</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>Bağlantılar:</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,14 @@
         <source>&amp;Privacy Policy</source>
         <translation>隐私政策(&amp;P)</translation>
     </message>
+    <message>
+        <source>All &amp;Links...</source>
+        <translation>所有链接(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>链接</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -122,10 +130,6 @@
     <message>
         <source>Ready</source>
         <translation>就绪</translation>
-    </message>
-    <message>
-        <source>Links:</source>
-        <translation>链接：</translation>
     </message>
 </context>
 <context>
