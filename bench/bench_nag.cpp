@@ -35,7 +35,7 @@ namespace {
 
 using Clock = ProcessCpuClock;
 
-const char* const kNagQml = R"(import QtQuick 2.15
+const char* const NagQml = R"(import QtQuick 2.15
 Rectangle {
     width: 480; height: 320; color: "#20242c"
     property string nag_id: "bench"
@@ -85,7 +85,7 @@ struct Nag
         qml = dir.filePath(QStringLiteral("main.qml"));
         QFile file(qml);
         if (file.open(QIODevice::WriteOnly))
-            file.write(kNagQml);
+            file.write(NagQml);
         file.close();
         manager.OverrideNagPath(QStringLiteral("bench"), qml);
         manager.SetShowStrategy(std::make_shared<FirstFrameStrategy>());

@@ -29,10 +29,10 @@ using namespace Ostrel::App;
 namespace {
 
 // Where the chosen locale and theme persist, in the application settings.
-const char* const kLocaleKey = "LookAndFeel/Locale";
-const char* const kThemeKey = "LookAndFeel/Theme";
-const char* const kPreferredTheme = "dark";
-const char* const kTitleFile = "theme.title";
+const char* const LocaleKey = "LookAndFeel/Locale";
+const char* const ThemeKey = "LookAndFeel/Theme";
+const char* const PreferredTheme = "dark";
+const char* const TitleFile = "theme.title";
 
 QString resourceRoot()
 {
@@ -55,8 +55,9 @@ QString linkStyleFor(const std::string& theme)
 
 } // namespace
 
-struct LookAndFeelWiring::Impl
+class LookAndFeelWiring::Impl
 {
+public:
     Application& application;
     QMainWindow& window;
     std::shared_ptr<LookAndFeelManager> manager;
@@ -71,64 +72,66 @@ struct LookAndFeelWiring::Impl
 };
 
 LookAndFeelWiring::LookAndFeelWiring(Application& application, QMainWindow& window)
-    : QObject(&window)
-    , m_impl(std::make_unique<Impl>(Impl{application, window, {}, {}, {}, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr}))
+    : QObject(&window),
+      d(std::make_unique<Impl>(
+          Impl{application, window, {}, {}, {}, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr}))
 {
-    Impl& d = *m_impl;
-    d.settings = application.get<IApplicationSettingsManager>();
-    d.manager = std::make_shared<LookAndFeelManager>(Core::ioPath(resourceRoot()), kTitleFile,
-                                                     std::list<std::string>{"base", "controls", "ostrel"},
-                                                     std::list<std::string>());
-    application.SetLookAndFeel(d.manager);
-    if (d.settings)
-        d.colors = std::make_unique<ColorDialogHelper>(d.settings);
+    d->settings = application.get<IApplicationSettingsManager>();
+    d->manager = std::make_shared<LookAndFeelManager>(Core::ioPath(resourceRoot()), TitleFile,
+                                                      std::list<std::string>{"base", "controls", "ostrel"},
+                                                      std::list<std::string>());
+    application.SetLookAndFeel(d->manager);
+    if (d->settings)
+        d->colors = std::make_unique<ColorDialogHelper>(d->settings);
 
-    d.localeMenu = window.menuBar()->addMenu(QString());
-    d.localeMenu->setObjectName(QStringLiteral("languageMenu"));
-    d.themeMenu = window.menuBar()->addMenu(QString());
-    d.themeMenu->setObjectName(QStringLiteral("themeMenu"));
-    d.optionsMenu = window.menuBar()->addMenu(QString());
-    d.optionsMenu->setObjectName(QStringLiteral("optionsMenu"));
-    d.colorsAction = d.optionsMenu->addAction(QString());
-    connect(d.colorsAction, &QAction::triggered, this, [this]() { QColorDialog::getColor(Qt::white, &m_impl->window); });
-    d.resetAction = d.optionsMenu->addAction(QString());
-    d.resetAction->setObjectName(QStringLiteral("resetConfirmationsAction"));
-    connect(d.resetAction, &QAction::triggered, this, [this]() {
+    d->localeMenu = window.menuBar()->addMenu(QString());
+    d->localeMenu->setObjectName(QStringLiteral("languageMenu"));
+    d->themeMenu = window.menuBar()->addMenu(QString());
+    d->themeMenu->setObjectName(QStringLiteral("themeMenu"));
+    d->optionsMenu = window.menuBar()->addMenu(QString());
+    d->optionsMenu->setObjectName(QStringLiteral("optionsMenu"));
+    d->colorsAction = d->optionsMenu->addAction(QString());
+    connect(d->colorsAction, &QAction::triggered, this,
+            [this]() { QColorDialog::getColor(Qt::white, &d->window); });
+    d->resetAction = d->optionsMenu->addAction(QString());
+    d->resetAction->setObjectName(QStringLiteral("resetConfirmationsAction"));
+    connect(d->resetAction, &QAction::triggered, this, [this]() {
         // Every remembered answer lives below "confirm/": all boxes ask again.
-        if (m_impl->settings)
-            m_impl->settings->RemoveGroup("confirm");
-        m_impl->window.statusBar()->showMessage(tr("Remembered answers were reset."), 5000);
+        if (d->settings)
+            d->settings->RemoveGroup("confirm");
+        d->window.statusBar()->showMessage(tr("Remembered answers were reset."), 5000);
     });
 
-    d.handler = new LookAndFeelHandler(d.manager, d.localeMenu, d.themeMenu, this);
-    connect(d.handler, &LookAndFeelHandler::LocaleChanged, this, [this](const std::string& locale) {
-        if (m_impl->settings)
-            m_impl->settings->SetString(kLocaleKey, locale);
+    d->handler = new LookAndFeelHandler(d->manager, d->localeMenu, d->themeMenu, this);
+    connect(d->handler, &LookAndFeelHandler::LocaleChanged, this, [this](const std::string& locale) {
+        if (d->settings)
+            d->settings->SetString(LocaleKey, locale);
         // The theme's macros may differ by language: setting the current theme again composes
         // anew what the locale changed, and keeps its resources registered once.
-        m_impl->manager->SetTheme(m_impl->manager->GetCurrentTheme());
+        d->manager->SetTheme(d->manager->GetCurrentTheme());
     });
-    connect(d.handler, &LookAndFeelHandler::ThemeChanged, this, [this](const std::string& theme) {
-        if (m_impl->settings)
-            m_impl->settings->SetString(kThemeKey, theme);
+    connect(d->handler, &LookAndFeelHandler::ThemeChanged, this, [this](const std::string& theme) {
+        if (d->settings)
+            d->settings->SetString(ThemeKey, theme);
     });
 
-    const std::string storedLocale = d.settings ? d.settings->GetString(kLocaleKey, std::string()) : std::string();
-    std::string theme = d.settings ? d.settings->GetString(kThemeKey, kPreferredTheme) : kPreferredTheme;
-    const auto& themes = d.manager->GetThemes();
+    const std::string storedLocale =
+        d->settings ? d->settings->GetString(LocaleKey, std::string()) : std::string();
+    std::string theme = d->settings ? d->settings->GetString(ThemeKey, PreferredTheme) : PreferredTheme;
+    const auto& themes = d->manager->GetThemes();
     if (std::find(themes.begin(), themes.end(), theme) == themes.end())
         theme = themes.empty() ? std::string() : themes.front();
-    d.manager->Initialize(storedLocale, theme);
+    d->manager->Initialize(storedLocale, theme);
 
     std::list<std::string> sortedThemes = themes;
     sortedThemes.sort();
-    std::list<std::string> sortedLocales = d.manager->GetLocales();
+    std::list<std::string> sortedLocales = d->manager->GetLocales();
     sortedLocales.sort();
-    d.handler->SetLocaleList(sortedLocales);
-    d.handler->SetThemeList(sortedThemes);
-    d.handler->SelectLocale(d.manager->GetCurrentLocale());
-    d.handler->SelectTheme(d.manager->GetCurrentTheme());
-    d.handler->Refresh();
+    d->handler->SetLocaleList(sortedLocales);
+    d->handler->SetThemeList(sortedThemes);
+    d->handler->SelectLocale(d->manager->GetCurrentLocale());
+    d->handler->SelectTheme(d->manager->GetCurrentTheme());
+    d->handler->Refresh();
 
     applyTheme();
     retranslate();
@@ -136,45 +139,44 @@ LookAndFeelWiring::LookAndFeelWiring(Application& application, QMainWindow& wind
     if (const auto lifetime = application.get<ILifetimeManager>())
         lifetime->RegisterEventHandler(this);
     // The stylesheet follows every theme change, whoever makes it.
-    connect(d.handler, &LookAndFeelHandler::ThemeChanged, this, &LookAndFeelWiring::applyTheme);
-    connect(d.handler, &LookAndFeelHandler::LocaleChanged, this, &LookAndFeelWiring::applyTheme);
+    connect(d->handler, &LookAndFeelHandler::ThemeChanged, this, &LookAndFeelWiring::applyTheme);
+    connect(d->handler, &LookAndFeelHandler::LocaleChanged, this, &LookAndFeelWiring::applyTheme);
 }
 
 LookAndFeelWiring::~LookAndFeelWiring()
 {
-    if (const auto lifetime = m_impl->application.get<ILifetimeManager>())
+    if (const auto lifetime = d->application.get<ILifetimeManager>())
         lifetime->UnregisterEventHandler(this);
     // Saves the custom colours while the settings can still be written.
-    m_impl->colors.reset();
+    d->colors.reset();
 }
 
 void LookAndFeelWiring::onStart()
 {
     // Through the event loop, so that the main window is painted behind the question.
     QTimer::singleShot(0, this, [this]() {
-        requestAppStoreStatistics(m_impl->settings, m_impl->application.GetCustomizationManager());
+        requestAppStoreStatistics(d->settings, d->application.GetCustomizationManager());
     });
 }
 
 void LookAndFeelWiring::applyTheme()
 {
-    qApp->setProperty("linkStyle", linkStyleFor(m_impl->manager->GetCurrentTheme()));
-    qApp->setStyleSheet(Util::Utf8ToQString(m_impl->manager->GetUnitedStylesheet()));
+    qApp->setProperty("linkStyle", linkStyleFor(d->manager->GetCurrentTheme()));
+    qApp->setStyleSheet(Util::Utf8ToQString(d->manager->GetUnitedStylesheet()));
 }
 
 void LookAndFeelWiring::retranslate()
 {
-    Impl& d = *m_impl;
-    d.localeMenu->setTitle(tr("&Language"));
-    d.themeMenu->setTitle(tr("&Theme"));
-    d.optionsMenu->setTitle(tr("&Options"));
-    d.colorsAction->setText(tr("Custom colours..."));
-    d.resetAction->setText(tr("Reset remembered answers"));
+    d->localeMenu->setTitle(tr("&Language"));
+    d->themeMenu->setTitle(tr("&Theme"));
+    d->optionsMenu->setTitle(tr("&Options"));
+    d->colorsAction->setText(tr("Custom colours..."));
+    d->resetAction->setText(tr("Reset remembered answers"));
 }
 
 bool LookAndFeelWiring::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == &m_impl->window && event->type() == QEvent::LanguageChange)
+    if (watched == &d->window && event->type() == QEvent::LanguageChange)
         retranslate();
     return QObject::eventFilter(watched, event);
 }

@@ -38,6 +38,6 @@ private:
     void retranslate();
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };

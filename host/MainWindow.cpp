@@ -20,8 +20,9 @@
 
 using namespace Ostrel::App;
 
-struct MainWindow::Impl
+class MainWindow::Impl
 {
+public:
     QLabel* version = nullptr;
     QLabel* organization = nullptr;
     QLabel* partner = nullptr;
@@ -37,9 +38,8 @@ struct MainWindow::Impl
 };
 
 MainWindow::MainWindow(Application& application, QWidget* parent)
-    : QMainWindow(parent), m_impl(std::make_unique<Impl>()), m_application(application)
+    : QMainWindow(parent), d(std::make_unique<Impl>()), m_application(application)
 {
-    Impl& d = *m_impl;
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QCoreApplication::applicationName());
     resize(720, 460);
@@ -52,8 +52,8 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
     font.setPointSize(font.pointSize() * 2);
     title->setFont(font);
     layout->addWidget(title, 0, Qt::AlignHCenter);
-    d.version = new QLabel(central);
-    layout->addWidget(d.version, 0, Qt::AlignHCenter);
+    d->version = new QLabel(central);
+    layout->addWidget(d->version, 0, Qt::AlignHCenter);
     layout->addSpacing(16);
 
     // What the shell knows about this run, as a product's "About" page would show it.
@@ -69,34 +69,34 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
         facts->addRow(label, field);
         return field;
     };
-    addFact(d.organization, QCoreApplication::organizationName());
-    addFact(d.partner,
+    addFact(d->organization, QCoreApplication::organizationName());
+    addFact(d->partner,
             product ? QString::fromStdString(product->GetString("PartnerName", std::string())) : QString());
-    d.launchTypeKnown = launchType != nullptr;
-    d.launchTypeValue =
-        addFact(d.launchType, launchType ? QString::number(launchType->GetLaunchType()) : QString());
-    addFact(d.days, QString::number(m_application.GetDaysPassed()));
-    addFact(d.brand, customization ? QString::fromStdString(customization->GetBrand()) : QString());
+    d->launchTypeKnown = launchType != nullptr;
+    d->launchTypeValue =
+        addFact(d->launchType, launchType ? QString::number(launchType->GetLaunchType()) : QString());
+    addFact(d->days, QString::number(m_application.GetDaysPassed()));
+    addFact(d->brand, customization ? QString::fromStdString(customization->GetBrand()) : QString());
     layout->addLayout(facts);
     layout->addSpacing(8);
     layout->addStretch(1);
     setCentralWidget(central);
     new GestureWiring(this);
 
-    d.fileMenu = menuBar()->addMenu(QString());
-    QAction* restart = d.restart = d.fileMenu->addAction(QString());
+    d->fileMenu = menuBar()->addMenu(QString());
+    QAction* restart = d->restart = d->fileMenu->addAction(QString());
     restart->setObjectName(QStringLiteral("restartAction"));
     connect(restart, &QAction::triggered, this, [this]() {
         m_application.get<ILifetimeManager>()->tryToRestart(Interactive, std::string(), std::string());
     });
-    QAction* quit = d.quit = d.fileMenu->addAction(QString());
+    QAction* quit = d->quit = d->fileMenu->addAction(QString());
     quit->setObjectName(QStringLiteral("quitAction"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this,
             [this]() { m_application.get<ILifetimeManager>()->tryToQuit(); });
 
     retranslate();
-    statusBar()->showMessage(d.ready);
+    statusBar()->showMessage(d->ready);
 
     // Language and Theme menus, the stylesheet and the remembered answers.
     new LookAndFeelWiring(m_application, *this);
@@ -114,21 +114,20 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::retranslate()
 {
-    Impl& d = *m_impl;
-    d.version->setText(tr("Version %1").arg(QCoreApplication::applicationVersion()));
-    d.organization->setText(tr("Organization:"));
-    d.partner->setText(tr("Partner:"));
-    d.launchType->setText(tr("Launch type:"));
-    if (!d.launchTypeKnown)
-        d.launchTypeValue->setText(tr("unknown"));
-    d.days->setText(tr("Days since first start:"));
-    d.brand->setText(tr("Brand:"));
-    d.fileMenu->setTitle(tr("&File"));
-    d.restart->setText(tr("&Restart"));
-    d.quit->setText(tr("&Quit"));
+    d->version->setText(tr("Version %1").arg(QCoreApplication::applicationVersion()));
+    d->organization->setText(tr("Organization:"));
+    d->partner->setText(tr("Partner:"));
+    d->launchType->setText(tr("Launch type:"));
+    if (!d->launchTypeKnown)
+        d->launchTypeValue->setText(tr("unknown"));
+    d->days->setText(tr("Days since first start:"));
+    d->brand->setText(tr("Brand:"));
+    d->fileMenu->setTitle(tr("&File"));
+    d->restart->setText(tr("&Restart"));
+    d->quit->setText(tr("&Quit"));
     // Only the greeting follows the language; a message shown meanwhile stays as it is.
-    const bool greeting = !d.ready.isEmpty() && statusBar()->currentMessage() == d.ready;
-    d.ready = tr("Ready");
+    const bool greeting = !d->ready.isEmpty() && statusBar()->currentMessage() == d->ready;
+    d->ready = tr("Ready");
     if (greeting)
-        statusBar()->showMessage(d.ready);
+        statusBar()->showMessage(d->ready);
 }

@@ -24,7 +24,7 @@ protected:
 private:
     void retranslate();
 
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
     Ostrel::App::Application& m_application;
 };

@@ -25,7 +25,7 @@ QString keyUrl(URLKeys key)
 }
 
 // The whole wait in a few milliseconds: the counts are what matter, not the clock.
-const WindowWaitTimings kShortWait{40, std::chrono::milliseconds(1)};
+const WindowWaitTimings ShortWait{40, std::chrono::milliseconds(1)};
 
 // Ends the test process if it is still armed after ten seconds: a call that blocks the GUI thread
 // must fail the test, not hang it.
@@ -69,7 +69,7 @@ class TestTyfi : public QObject
     std::shared_ptr<SettableLaunchType> m_launchType;
     std::shared_ptr<HoldingGateway> m_gateway;
 
-    std::unique_ptr<Tyfi> make(bool withGateway = false, const WindowWaitTimings& timings = kShortWait)
+    std::unique_ptr<Tyfi> make(bool withGateway = false, const WindowWaitTimings& timings = ShortWait)
     {
         auto tyfi =
             std::make_unique<Tyfi>(m_customization, m_links, std::make_shared<MemoryInstallerSettings>(),

@@ -8,12 +8,12 @@
 
 namespace {
 
-const QByteArray kName = "Jane Roe";
-const QByteArray kAddress = "jane.roe@mail.example.org";
+const QByteArray Name = "Jane Roe";
+const QByteArray Address = "jane.roe@mail.example.org";
 
-const QFileDevice::Permissions kGroupOrOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
-                                                QFileDevice::ExeGroup | QFileDevice::ReadOther |
-                                                QFileDevice::WriteOther | QFileDevice::ExeOther;
+const QFileDevice::Permissions GroupOrOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
+                                               QFileDevice::ExeGroup | QFileDevice::ReadOther |
+                                               QFileDevice::WriteOther | QFileDevice::ExeOther;
 
 bool writeFile(const QString& path, const QByteArray& bytes)
 {
@@ -100,11 +100,11 @@ private slots:
         // What the run created is the user's alone.
         for (const QString& path : QStringList{home.trackingFile(), home.logFile()}) {
             QVERIFY2(QFileInfo::exists(path), qPrintable(path));
-            QCOMPARE(QFileInfo(path).permissions() & kGroupOrOthers, QFileDevice::Permissions());
+            QCOMPARE(QFileInfo(path).permissions() & GroupOrOthers, QFileDevice::Permissions());
         }
         for (const QString& folder : QStringList{home.dataFolder(), QFileInfo(home.dataFolder()).path(),
                                                  home.dataFolder() + QStringLiteral("/logs")})
-            QCOMPARE(QFileInfo(folder).permissions() & kGroupOrOthers, QFileDevice::Permissions());
+            QCOMPARE(QFileInfo(folder).permissions() & GroupOrOthers, QFileDevice::Permissions());
     }
 
     void trackingFileIsRepairedAndRotatedByARun()
@@ -130,9 +130,8 @@ private slots:
     void personalDataStaysOutOfTrackingAndLog()
     {
         HostHome home;
-        QVERIFY(
-            writeFile(home.settingsFile(QStringLiteral("mail.ini")),
-                      "[General]\nUserName=" + kName + "\nUserEmail=" + kAddress + "\nisConfirmed=true\n"));
+        QVERIFY(writeFile(home.settingsFile(QStringLiteral("mail.ini")),
+                          "[General]\nUserName=" + Name + "\nUserEmail=" + Address + "\nisConfirmed=true\n"));
 
         // The first launch opens the thank-you page, whose URL carries the name and the address.
         QProcess host;
@@ -150,9 +149,9 @@ private slots:
         // The settings file the start created holds the launch state beside the user's choices.
         const QString product = home.settingsFile(QStringLiteral("product.ini"));
         QVERIFY(QFileInfo::exists(product));
-        QCOMPARE(QFileInfo(product).permissions() & kGroupOrOthers, QFileDevice::Permissions());
+        QCOMPARE(QFileInfo(product).permissions() & GroupOrOthers, QFileDevice::Permissions());
         for (const QByteArray& personal :
-             {kName, QByteArray("Jane%20Roe"), QByteArray("Jane+Roe"), kAddress, QByteArray("jane.roe%40")}) {
+             {Name, QByteArray("Jane%20Roe"), QByteArray("Jane+Roe"), Address, QByteArray("jane.roe%40")}) {
             QVERIFY2(!tracking.contains(personal), personal.constData());
             QVERIFY2(!log.contains(personal), personal.constData());
         }

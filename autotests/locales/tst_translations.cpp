@@ -17,8 +17,8 @@
 
 namespace {
 
-const QString kSourceRoot = QStringLiteral(OSTREL_SOURCE_ROOT);
-const QString kBuildRoot = QStringLiteral(OSTREL_BUILD_ROOT);
+const QString SourceRoot = QStringLiteral(OSTREL_SOURCE_ROOT);
+const QString BuildRoot = QStringLiteral(OSTREL_BUILD_ROOT);
 
 struct Message
 {
@@ -93,7 +93,7 @@ private Q_SLOTS:
         environment.insert(QStringLiteral("LUPDATE"), QStringLiteral(OSTREL_LUPDATE));
         script.setProcessEnvironment(environment);
         script.setProcessChannelMode(QProcess::ForwardedChannels);
-        script.start(QStringLiteral("bash"), {kSourceRoot + QStringLiteral("/scripts/translations.sh"),
+        script.start(QStringLiteral("bash"), {SourceRoot + QStringLiteral("/scripts/translations.sh"),
                                               QStringLiteral("--extract"), extracted});
         QVERIFY2(script.waitForFinished(60000), "the extraction did not end within a minute");
         QCOMPARE(script.exitStatus(), QProcess::NormalExit);
@@ -108,13 +108,13 @@ private Q_SLOTS:
     void everyTextTranslated_data()
     {
         QTest::addColumn<QString>("qmFile");
-        const QStringList sources = QDir(kSourceRoot + QStringLiteral("/resources/locales"))
+        const QStringList sources = QDir(SourceRoot + QStringLiteral("/resources/locales"))
                                         .entryList({QStringLiteral("ostrel_*.ts")}, QDir::Files, QDir::Name);
         QCOMPARE(sources.size(), 14);
         for (const QString& ts : sources) {
             const QString locale = ts.mid(7, ts.size() - 10);
             QTest::newRow(qPrintable(locale))
-                << QStringLiteral("%1/resources/locales/%2/ostrel_%2.qm").arg(kBuildRoot, locale);
+                << QStringLiteral("%1/resources/locales/%2/ostrel_%2.qm").arg(BuildRoot, locale);
         }
     }
 
@@ -158,11 +158,11 @@ private Q_SLOTS:
     void qtOwnTextsTranslated_data()
     {
         QTest::addColumn<QString>("qmFile");
-        for (const QString& locale : QDir(kBuildRoot + QStringLiteral("/resources/locales"))
+        for (const QString& locale : QDir(BuildRoot + QStringLiteral("/resources/locales"))
                                          .entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
             if (locale != QLatin1String("en_US"))
                 QTest::newRow(qPrintable(locale))
-                    << QStringLiteral("%1/resources/locales/%2/qtbase_%2.qm").arg(kBuildRoot, locale);
+                    << QStringLiteral("%1/resources/locales/%2/qtbase_%2.qm").arg(BuildRoot, locale);
         }
     }
 

@@ -15,7 +15,7 @@ using namespace Ostrel::App;
 
 namespace {
 
-const QString kBuildRoot = QStringLiteral(OSTREL_BUILD_ROOT);
+const QString BuildRoot = QStringLiteral(OSTREL_BUILD_ROOT);
 
 // The system's languages as Qt gives them (BCP 47 tags, most preferred first), and a fixed
 // fallback when the product names one.
@@ -148,7 +148,7 @@ private slots:
 
     void translatorsFollowTheLocale()
     {
-        SystemLanguages manager(kBuildRoot, {QStringLiteral("en-US")});
+        SystemLanguages manager(BuildRoot, {QStringLiteral("en-US")});
         Counter counter;
         manager.RegisterObserver(&counter);
         manager.SetLocale("de_DE");
@@ -165,10 +165,10 @@ private slots:
 
     void baseNamesChooseTheTranslationFiles()
     {
-        SystemLanguages other(kBuildRoot, {QStringLiteral("en-US")}, "unknown", {"nosuch"});
+        SystemLanguages other(BuildRoot, {QStringLiteral("en-US")}, "unknown", {"nosuch"});
         other.SetLocale("de_DE");
         QCOMPARE(dontShowAgain(), QStringLiteral("Don't show this again"));
-        SystemLanguages named(kBuildRoot, {QStringLiteral("en-US")}, "unknown", {"base", "ostrel"});
+        SystemLanguages named(BuildRoot, {QStringLiteral("en-US")}, "unknown", {"base", "ostrel"});
         named.SetLocale("de_DE");
         QCOMPARE(dontShowAgain(), QStringLiteral("Nicht mehr anzeigen"));
     }
@@ -178,7 +178,7 @@ private slots:
         QTemporaryDir dir;
         const QString folder = dir.filePath(QStringLiteral("resources/locales/de_DE"));
         QDir().mkpath(folder);
-        QVERIFY(QFile::copy(kBuildRoot + QStringLiteral("/resources/locales/de_DE/ostrel_de_DE.qm"),
+        QVERIFY(QFile::copy(BuildRoot + QStringLiteral("/resources/locales/de_DE/ostrel_de_DE.qm"),
                             folder + QStringLiteral("/ostrel_de_DE.qm")));
         QFile broken(folder + QStringLiteral("/broken_de_DE.qm"));
         QVERIFY(broken.open(QIODevice::WriteOnly));

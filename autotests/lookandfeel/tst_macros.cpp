@@ -22,7 +22,7 @@ Q_DECLARE_METATYPE(Macros)
 
 namespace {
 
-const QString kCorpus = QStringLiteral(OSTREL_STYLESHEET_CORPUS);
+const QString Corpus = QStringLiteral(OSTREL_STYLESHEET_CORPUS);
 
 // Every block of every section of a macro file, as the manager merges them (later wins).
 Macros macrosOfFile(const QByteArray& json)
@@ -170,7 +170,7 @@ private slots:
     // The fuzz target's inputs: the macro file before the first NUL byte, the stylesheet after it.
     void fuzzCorpus()
     {
-        const QFileInfoList inputs = QDir(kCorpus).entryInfoList(QDir::Files);
+        const QFileInfoList inputs = QDir(Corpus).entryInfoList(QDir::Files);
         QVERIFY(!inputs.isEmpty());
         for (const QFileInfo& input : inputs) {
             QFile file(input.absoluteFilePath());

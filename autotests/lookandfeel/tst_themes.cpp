@@ -22,14 +22,14 @@ using namespace Ostrel::App;
 
 namespace {
 
-const QString kBuildRoot = QStringLiteral(OSTREL_BUILD_ROOT);
-const char* const kTitleFile = "theme.title";
+const QString BuildRoot = QStringLiteral(OSTREL_BUILD_ROOT);
+const char* const TitleFile = "theme.title";
 
 // Markers that stand once in each style file of the generated themes.
-const QString kBaseStyle = QStringLiteral("QMainWindow, QDialog, QMessageBox");
-const QString kBaseFonts = QStringLiteral("/* Font sizes;");
-const QString kControlsStyle = QStringLiteral("/* Menus and buttons");
-const QString kProductStyle = QStringLiteral("Ostrel--App--AboutBoxDialog {");
+const QString BaseStyle = QStringLiteral("QMainWindow, QDialog, QMessageBox");
+const QString BaseFonts = QStringLiteral("/* Font sizes;");
+const QString ControlsStyle = QStringLiteral("/* Menus and buttons");
+const QString ProductStyle = QStringLiteral("Ostrel--App--AboutBoxDialog {");
 
 class Recorder : public ILookAndFeelObserver
 {
@@ -47,7 +47,7 @@ public:
 
 std::unique_ptr<LookAndFeelManager> realTree(const std::list<std::string>& baseNames = {})
 {
-    return std::make_unique<Test::EnglishLookAndFeel>(Core::ioPath(kBuildRoot), kTitleFile, baseNames,
+    return std::make_unique<Test::EnglishLookAndFeel>(Core::ioPath(BuildRoot), TitleFile, baseNames,
                                                       std::list<std::string>());
 }
 
@@ -108,12 +108,12 @@ private slots:
         QTest::addColumn<QStringList>("baseNames");
         QTest::addColumn<QStringList>("markers");
         QTest::newRow("base first") << QStringList{QStringLiteral("base"), QStringLiteral("controls")}
-                                    << QStringList{kBaseStyle, kBaseFonts, kControlsStyle, kProductStyle};
+                                    << QStringList{BaseStyle, BaseFonts, ControlsStyle, ProductStyle};
         QTest::newRow("reversed, with a name that has no file")
             << QStringList{QStringLiteral("controls"), QStringLiteral("missing"), QStringLiteral("base")}
-            << QStringList{kControlsStyle, kBaseStyle, kBaseFonts, kProductStyle};
-        QTest::newRow("controls only") << QStringList{QStringLiteral("controls")}
-                                       << QStringList{kControlsStyle, kProductStyle};
+            << QStringList{ControlsStyle, BaseStyle, BaseFonts, ProductStyle};
+        QTest::newRow("controls only")
+            << QStringList{QStringLiteral("controls")} << QStringList{ControlsStyle, ProductStyle};
     }
 
     void styleFilesComeInResourceOrder()
@@ -133,7 +133,7 @@ private slots:
             last = at;
         }
         if (!baseNames.contains(QStringLiteral("base")))
-            QVERIFY(!text.contains(kBaseStyle));
+            QVERIFY(!text.contains(BaseStyle));
         manager->SetTheme(std::string());
     }
 
@@ -432,8 +432,8 @@ private slots:
         QTemporaryDir dir;
         const QString root = dir.path();
         const QString themes = root + QStringLiteral("/resources/themes");
-        copyTree(kBuildRoot + QStringLiteral("/resources/themes/dark"), themes + QStringLiteral("/dark"));
-        copyTree(kBuildRoot + QStringLiteral("/resources/themes/light"), themes + QStringLiteral("/light"));
+        copyTree(BuildRoot + QStringLiteral("/resources/themes/dark"), themes + QStringLiteral("/dark"));
+        copyTree(BuildRoot + QStringLiteral("/resources/themes/light"), themes + QStringLiteral("/light"));
         // No title file: the theme does not exist.
         writeFile(themes + QStringLiteral("/untitled/base.rcc"), "whatever");
         // A title file in a broken syntax: the lines before the damage still count.
@@ -445,7 +445,7 @@ private slots:
         QDir().mkpath(root + QStringLiteral("/resources/locales/ru_RU"));
 
         Test::LogCapture log;
-        Test::EnglishLookAndFeel manager(Core::ioPath(root), kTitleFile, {}, {});
+        Test::EnglishLookAndFeel manager(Core::ioPath(root), TitleFile, {}, {});
         std::list<std::string> listed = manager.GetThemes();
         listed.sort();
         QCOMPARE(listed, (std::list<std::string>{"broken", "dark", "light", "light"}));
@@ -461,7 +461,7 @@ private slots:
         // An ".rcc" that isn't one: nothing registers, the product's files still compose.
         manager.SetTheme("broken");
         QVERIFY(sheet(manager).startsWith(QStringLiteral("\n\n")));
-        QVERIFY(sheet(manager).contains(kProductStyle));
+        QVERIFY(sheet(manager).contains(ProductStyle));
 
         // The folder of a listed theme vanished.
         QVERIFY(QDir(themes + QStringLiteral("/dark")).removeRecursively());
@@ -469,18 +469,18 @@ private slots:
         manager.SetTheme("dark");
         QCOMPARE(log.matching("doesn't exist!").size(), size_t(1));
         QVERIFY(sheet(manager).endsWith(QStringLiteral("}\n\n\n")));
-        QVERIFY(!sheet(manager).contains(kBaseStyle));
+        QVERIFY(!sheet(manager).contains(BaseStyle));
         manager.SetTheme(std::string());
     }
 
     void noResourcesFolderAtAll()
     {
         QTemporaryDir dir;
-        LookAndFeelManager manager(Core::ioPath(dir.path()), kTitleFile, {}, {});
+        LookAndFeelManager manager(Core::ioPath(dir.path()), TitleFile, {}, {});
         QVERIFY(manager.GetThemes().empty());
         QVERIFY(manager.GetLocales().empty());
         manager.SetTheme("dark");
-        QVERIFY(sheet(manager).contains(kProductStyle));
+        QVERIFY(sheet(manager).contains(ProductStyle));
         manager.SetTheme(std::string());
     }
 

@@ -2,14 +2,15 @@
 
 namespace Ostrel::Test {
 
-struct ProbeRunner::Impl
+class ProbeRunner::Impl
 {
+public:
     QString program;
     QProcessEnvironment environment;
 };
 
 ProbeRunner::ProbeRunner(const QString& program)
-    : m_impl(std::make_unique<Impl>(Impl{program, defaultEnvironment()}))
+    : d(std::make_unique<Impl>(Impl{program, defaultEnvironment()}))
 {
 }
 
@@ -24,14 +25,14 @@ QProcessEnvironment ProbeRunner::defaultEnvironment()
 
 QProcessEnvironment& ProbeRunner::environment()
 {
-    return m_impl->environment;
+    return d->environment;
 }
 
 ProbeRunner::Result ProbeRunner::run(const QStringList& arguments, int timeoutMs) const
 {
     QProcess process;
-    process.setProcessEnvironment(m_impl->environment);
-    process.start(m_impl->program, arguments);
+    process.setProcessEnvironment(d->environment);
+    process.start(d->program, arguments);
     Result result;
     if (!process.waitForFinished(timeoutMs)) {
         process.kill();

@@ -41,8 +41,8 @@ public:
     Result run(const QStringList& arguments, int timeoutMs = 60000) const;
 
 private:
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 } // namespace Ostrel::Test

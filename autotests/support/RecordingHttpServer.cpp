@@ -51,18 +51,19 @@ QByteArray RecordingHttpServer::Request::header(const QByteArray& name) const
     return "<none>";
 }
 
-struct RecordingHttpServer::Impl
+class RecordingHttpServer::Impl
 {
+public:
     QTcpServer server;
     QByteArray reply = response(200);
     QMap<QByteArray, Handler> handlers;
     QList<Request> requests;
 };
 
-RecordingHttpServer::RecordingHttpServer() : m_impl(std::make_unique<Impl>())
+RecordingHttpServer::RecordingHttpServer() : d(std::make_unique<Impl>())
 {
-    connect(&m_impl->server, &QTcpServer::newConnection, this, [this]() {
-        while (QTcpSocket* socket = m_impl->server.nextPendingConnection()) {
+    connect(&d->server, &QTcpServer::newConnection, this, [this]() {
+        while (QTcpSocket* socket = d->server.nextPendingConnection()) {
             auto buffer = std::make_shared<QByteArray>();
             connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
             connect(socket, &QTcpSocket::readyRead, this, [this, socket, buffer]() {
@@ -71,25 +72,25 @@ RecordingHttpServer::RecordingHttpServer() : m_impl(std::make_unique<Impl>())
                 if (!parseRequest(*buffer, &request))
                     return;
                 buffer->clear();
-                m_impl->requests.append(request);
-                const auto handler = m_impl->handlers.constFind(request.path());
-                if (handler != m_impl->handlers.cend()) {
+                d->requests.append(request);
+                const auto handler = d->handlers.constFind(request.path());
+                if (handler != d->handlers.cend()) {
                     (*handler)(request, *socket);
-                } else if (!m_impl->reply.isEmpty()) {
-                    socket->write(m_impl->reply);
+                } else if (!d->reply.isEmpty()) {
+                    socket->write(d->reply);
                     socket->disconnectFromHost();
                 }
             });
         }
     });
-    m_impl->server.listen(QHostAddress::LocalHost);
+    d->server.listen(QHostAddress::LocalHost);
 }
 
 RecordingHttpServer::~RecordingHttpServer() = default;
 
 QString RecordingHttpServer::base() const
 {
-    return QStringLiteral("http://127.0.0.1:%1").arg(m_impl->server.serverPort());
+    return QStringLiteral("http://127.0.0.1:%1").arg(d->server.serverPort());
 }
 
 QUrl RecordingHttpServer::url(const QString& pathAndQuery) const
@@ -106,12 +107,12 @@ QByteArray RecordingHttpServer::response(int status, const QByteArray& body, con
 
 void RecordingHttpServer::setReply(const QByteArray& rawResponse)
 {
-    m_impl->reply = rawResponse;
+    d->reply = rawResponse;
 }
 
 void RecordingHttpServer::setHandler(const QByteArray& path, Handler handler)
 {
-    m_impl->handlers.insert(path, std::move(handler));
+    d->handlers.insert(path, std::move(handler));
 }
 
 void RecordingHttpServer::setReplyFor(const QByteArray& path, const QByteArray& rawResponse)
@@ -124,13 +125,13 @@ void RecordingHttpServer::setReplyFor(const QByteArray& path, const QByteArray& 
 
 QList<RecordingHttpServer::Request> RecordingHttpServer::requests() const
 {
-    return m_impl->requests;
+    return d->requests;
 }
 
 QList<RecordingHttpServer::Request> RecordingHttpServer::requestsTo(const QByteArray& path) const
 {
     QList<Request> result;
-    for (const Request& request : m_impl->requests) {
+    for (const Request& request : d->requests) {
         if (request.path() == path)
             result.append(request);
     }

@@ -57,8 +57,8 @@ public:
     QList<Request> requestsTo(const QByteArray& path) const;
 
 private:
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 } // namespace Ostrel::Test

@@ -26,7 +26,7 @@ namespace {
 
 // The option table as the help dialog must list it: first names only, registration order, the
 // crash texts filled in, the locales option that the URL and nag tests share named once.
-const char* const kFullHelp =
+const char* const FullHelp =
     "--test-help Show help for test options\n"
     "--test-ssl-disable Use http when possible\n"
     "--test-ssl-enable Use https when possible\n"
@@ -47,7 +47,7 @@ const char* const kFullHelp =
     "--test-nag-helper Show nag executer window\n";
 
 // The sample nags of the built-in map walked in every mode ("app_start" is "any_mode" only).
-const QStringList kSampleNags{
+const QStringList SampleNags{
     QStringLiteral("free-local-app_close"), QStringLiteral("free-local-before_routine"),
     QStringLiteral("trial-local-app_close"), QStringLiteral("trial-local-before_routine")};
 
@@ -110,7 +110,7 @@ private slots:
     {
         QTest::addColumn<QString>("scenario");
         QTest::addColumn<QString>("expected");
-        const QString full = QString::fromUtf8(kFullHelp);
+        const QString full = QString::fromUtf8(FullHelp);
         // Before Testing::initialize only the constructor's tests and the host's connection test exist.
         QTest::newRow("before initialize")
             << QStringLiteral("core") << full.section(QLatin1Char('\n'), 0, 6) + QLatin1Char('\n');

@@ -15,7 +15,7 @@ namespace Ostrel::App {
 
 namespace {
 
-const char* const kCollectEmail = "CollectEmail";
+const char* const CollectEmail = "CollectEmail";
 
 std::string toUtf8(const QString& text)
 {
@@ -32,7 +32,7 @@ const std::map<std::string, std::string>& builtInDefaults()
         {"PartnerName", "ostrel"},
         {"ModuleName", "capture"},
         {"Brand", "ostrel"},
-        {kCollectEmail, "false"},
+        {CollectEmail, "false"},
         {"PageType", "thankyou"},
         {"UserAgentProduct", "OstrelCapture/1.0"},
         {"UserAgent", "Mozilla/5.0 (X11; Linux x86_64) OstrelCapture/1.0"},
@@ -71,7 +71,7 @@ public:
             const QString text = read.userType() == QMetaType::QStringList
                                      ? read.toStringList().join(QStringLiteral(", "))
                                      : read.toString();
-            if (key == kCollectEmail && !SettingsText::parseBool(text)) {
+            if (key == CollectEmail && !SettingsText::parseBool(text)) {
                 LOG(WARNING) << "Customization value CollectEmail=\"" << toUtf8(text) << "\" in "
                              << toUtf8(path) << " is not a boolean; keeping " << value;
                 continue;
@@ -100,7 +100,8 @@ CustomizationManager::CustomizationManager(const QString& filePath, const QStrin
     if (!embeddedPath.isEmpty())
         d->applyLayer(embeddedPath);
     d->applyLayer(filePath.isEmpty() ? defaultFilePath() : filePath);
-    d->collectEmail = SettingsText::parseBool(QString::fromUtf8(d->value(kCollectEmail).c_str())).value_or(false);
+    d->collectEmail =
+        SettingsText::parseBool(QString::fromUtf8(d->value(CollectEmail).c_str())).value_or(false);
 }
 
 CustomizationManager::~CustomizationManager() = default;

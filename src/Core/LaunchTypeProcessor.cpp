@@ -8,8 +8,8 @@ namespace Ostrel::App {
 
 namespace {
 
-const char* const kInstalledVersion = "Version";
-const char* const kLastLaunchedVersion = "LastLaunchedVersion";
+const char* const InstalledVersion = "Version";
+const char* const LastLaunchedVersion = "LastLaunchedVersion";
 
 std::optional<int> launchTypeFromArguments(const QStringList& arguments)
 {
@@ -49,8 +49,8 @@ LaunchTypeProcessor::LaunchTypeProcessor(
     Core::NotNull<std::shared_ptr<IInstallerSettingsManager>> installerSettings, const QStringList& arguments)
     : d(std::make_unique<Impl>())
 {
-    const std::string installed = installerSettings->GetString(kInstalledVersion, std::string());
-    const std::string lastLaunched = productSettings->GetString(kLastLaunchedVersion, std::string());
+    const std::string installed = installerSettings->GetString(InstalledVersion, std::string());
+    const std::string lastLaunched = productSettings->GetString(LastLaunchedVersion, std::string());
 
     if (const std::optional<int> explicitType = launchTypeFromArguments(arguments)) {
         d->launchType = *explicitType;
@@ -59,7 +59,7 @@ LaunchTypeProcessor::LaunchTypeProcessor(
     }
 
     if (d->launchType != Background && !installed.empty() && installed != lastLaunched)
-        productSettings->SetString(kLastLaunchedVersion, installed);
+        productSettings->SetString(LastLaunchedVersion, installed);
 
     LOG(INFO) << "Launch type " << d->launchType << " (installed version \"" << installed
               << "\", last launched \"" << lastLaunched << "\")";

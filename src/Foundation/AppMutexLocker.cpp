@@ -41,43 +41,44 @@ void unclaim(const std::string& name)
 
 } // namespace
 
-struct AppMutexLocker::Impl
+class AppMutexLocker::Impl
 {
+public:
     std::string name;
     AppMutexPlatform::Handle handle = 0;
     bool locked = false;
 };
 
-AppMutexLocker::AppMutexLocker(const std::string& name) : m_impl(std::make_unique<Impl>())
+AppMutexLocker::AppMutexLocker(const std::string& name) : d(std::make_unique<Impl>())
 {
-    m_impl->name = name;
+    d->name = name;
 }
 
 AppMutexLocker::~AppMutexLocker()
 {
-    if (!m_impl->locked)
+    if (!d->locked)
         return;
-    AppMutexPlatform::release(m_impl->handle);
-    unclaim(m_impl->name);
+    AppMutexPlatform::release(d->handle);
+    unclaim(d->name);
 }
 
 bool AppMutexLocker::TryLockAppMutex()
 {
-    if (m_impl->locked)
+    if (d->locked)
         return true;
-    if (!claim(m_impl->name))
+    if (!claim(d->name))
         return false;
-    if (!AppMutexPlatform::acquire(m_impl->name, m_impl->handle)) {
-        unclaim(m_impl->name);
+    if (!AppMutexPlatform::acquire(d->name, d->handle)) {
+        unclaim(d->name);
         return false;
     }
-    m_impl->locked = true;
+    d->locked = true;
     return true;
 }
 
 bool AppMutexLocker::IsLocked() const
 {
-    return m_impl->locked;
+    return d->locked;
 }
 
 } // namespace Ostrel::Util

@@ -30,8 +30,8 @@ public:
     bool IsLocked() const;
 
 private:
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 } // namespace Ostrel::Util

@@ -13,7 +13,7 @@ namespace Ostrel::Core {
 
 namespace {
 
-constexpr qint64 kDefaultSizeCap = 10 * 1024 * 1024;
+constexpr qint64 DefaultSizeCap = 10 * 1024 * 1024;
 
 std::string toUtf8(const QString& text)
 {
@@ -95,7 +95,7 @@ qint64 AppendFile::defaultSizeCap()
 {
     bool ok = false;
     const qint64 fromEnvironment = qgetenv("OSTREL_FILE_SIZE_CAP").toLongLong(&ok);
-    return ok && fromEnvironment > 0 ? fromEnvironment : kDefaultSizeCap;
+    return ok && fromEnvironment > 0 ? fromEnvironment : DefaultSizeCap;
 }
 
 QString AppendFile::filePath() const

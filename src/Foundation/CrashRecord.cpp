@@ -21,7 +21,7 @@ namespace {
 
 // Each record starts with this marker and its time stamp, so that records whose text spans
 // several lines can still be told apart.
-constexpr char kRecordMarker[] = "==== ";
+constexpr char RecordMarker[] = "==== ";
 
 // The exception this thread recorded last. Held, not just compared by address, so that its
 // object can not die and another exception be born at the same address.
@@ -82,7 +82,7 @@ void TrackCurrentException(const std::string& context) noexcept
         LOG(ERROR) << "Exception recorded" << (context.empty() ? "" : " (" + context + ")") << ": " << text;
 
         const QByteArray stamp = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs).toUtf8();
-        QByteArray record = kRecordMarker + stamp + '\n';
+        QByteArray record = RecordMarker + stamp + '\n';
         if (!context.empty())
             record += QByteArray::fromStdString(context) + '\n';
         record += QByteArray::fromStdString(text) + '\n';

@@ -2,8 +2,9 @@
 
 namespace Ostrel::Core {
 
-struct DataInputString::Impl
+class DataInputString::Impl
 {
+public:
     std::string bytes;
     std::size_t position = 0;
 };
@@ -13,23 +14,22 @@ std::shared_ptr<DataInputString> DataInputString::Create(std::string bytes)
     return std::shared_ptr<DataInputString>(new DataInputString(std::move(bytes)));
 }
 
-DataInputString::DataInputString(std::string bytes)
-    : m_impl(std::make_unique<Impl>())
+DataInputString::DataInputString(std::string bytes) : d(std::make_unique<Impl>())
 {
-    m_impl->bytes = std::move(bytes);
+    d->bytes = std::move(bytes);
 }
 
 DataInputString::~DataInputString() = default;
 
 bool DataInputString::AtEnd() const
 {
-    return m_impl->position >= m_impl->bytes.size();
+    return d->position >= d->bytes.size();
 }
 
 std::string DataInputString::ReadLine()
 {
-    const std::string& bytes = m_impl->bytes;
-    std::size_t& position = m_impl->position;
+    const std::string& bytes = d->bytes;
+    std::size_t& position = d->position;
     if (position >= bytes.size())
         return std::string();
     const std::size_t end = bytes.find_first_of("\r\n", position);
@@ -47,12 +47,12 @@ std::string DataInputString::ReadLine()
 
 std::size_t DataInputString::Position() const
 {
-    return m_impl->position;
+    return d->position;
 }
 
 const std::string& DataInputString::Data() const
 {
-    return m_impl->bytes;
+    return d->bytes;
 }
 
 } // namespace Ostrel::Core

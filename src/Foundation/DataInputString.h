@@ -24,8 +24,8 @@ public:
 
 private:
     explicit DataInputString(std::string bytes);
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 } // namespace Ostrel::Core

@@ -6,8 +6,9 @@
 
 namespace Ostrel::Core {
 
-struct DyLib::Impl
+class DyLib::Impl
 {
+public:
     std::string name;
     void* handle = nullptr;
 
@@ -18,12 +19,12 @@ struct DyLib::Impl
     }
 };
 
-DyLib::DyLib(const std::string& name) : m_impl(std::make_unique<Impl>())
+DyLib::DyLib(const std::string& name) : d(std::make_unique<Impl>())
 {
-    m_impl->name = name;
+    d->name = name;
     std::string error;
-    m_impl->handle = DyLibPlatform::open(name, error);
-    if (!m_impl->handle)
+    d->handle = DyLibPlatform::open(name, error);
+    if (!d->handle)
         VLOG(1) << "Library " << name << " not loaded: " << error;
 }
 
@@ -33,19 +34,19 @@ DyLib::~DyLib() = default;
 
 bool DyLib::isLoaded() const
 {
-    return m_impl && m_impl->handle;
+    return d && d->handle;
 }
 
 std::string DyLib::name() const
 {
-    return m_impl ? m_impl->name : std::string();
+    return d ? d->name : std::string();
 }
 
 void* DyLib::address(const char* symbol) const
 {
     if (!isLoaded() || !symbol)
         return nullptr;
-    return DyLibPlatform::symbol(m_impl->handle, symbol);
+    return DyLibPlatform::symbol(d->handle, symbol);
 }
 
 } // namespace Ostrel::Core

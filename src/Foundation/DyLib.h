@@ -38,8 +38,8 @@ public:
 private:
     void* address(const char* symbol) const;
 
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 } // namespace Ostrel::Core

@@ -4,47 +4,41 @@
 
 namespace Ostrel::Core {
 
-struct Property::Impl
+class Property::Impl
 {
+public:
     std::string name;
     std::string value;
     std::list<Property> children;
 };
 
-Property::Property()
-    : m_impl(std::make_unique<Impl>())
-{
-}
+Property::Property() : d(std::make_unique<Impl>()) {}
 
 Property::Property(const std::string& name, const std::string& value)
-    : m_impl(std::make_unique<Impl>(Impl{name, value, {}}))
+    : d(std::make_unique<Impl>(Impl{name, value, {}}))
 {
 }
 
-Property::Property(const Property& other)
-    : m_impl(std::make_unique<Impl>(*other.m_impl))
-{
-}
+Property::Property(const Property& other) : d(std::make_unique<Impl>(*other.d)) {}
 
 // A moved-from property stays usable (empty), so that containers may move nodes freely.
-Property::Property(Property&& other) noexcept
-    : m_impl(std::move(other.m_impl))
+Property::Property(Property&& other) noexcept : d(std::move(other.d))
 {
-    other.m_impl = std::make_unique<Impl>();
+    other.d = std::make_unique<Impl>();
 }
 
 Property& Property::operator=(const Property& other)
 {
     if (this != &other)
-        *m_impl = *other.m_impl;
+        *d = *other.d;
     return *this;
 }
 
 Property& Property::operator=(Property&& other) noexcept
 {
     if (this != &other) {
-        m_impl = std::move(other.m_impl);
-        other.m_impl = std::make_unique<Impl>();
+        d = std::move(other.d);
+        other.d = std::make_unique<Impl>();
     }
     return *this;
 }
@@ -53,22 +47,22 @@ Property::~Property() = default;
 
 const std::string& Property::GetName() const
 {
-    return m_impl->name;
+    return d->name;
 }
 
 void Property::SetName(const std::string& name)
 {
-    m_impl->name = name;
+    d->name = name;
 }
 
 const std::string& Property::GetString() const
 {
-    return m_impl->value;
+    return d->value;
 }
 
 void Property::SetString(const std::string& value)
 {
-    m_impl->value = value;
+    d->value = value;
 }
 
 bool Property::ChildExists(const std::string& name) const
@@ -78,9 +72,9 @@ bool Property::ChildExists(const std::string& name) const
 
 const Property* Property::GetChild(const std::string& name) const
 {
-    const auto it = std::find_if(m_impl->children.begin(), m_impl->children.end(),
+    const auto it = std::find_if(d->children.begin(), d->children.end(),
                                  [&](const Property& child) { return child.GetName() == name; });
-    return it == m_impl->children.end() ? nullptr : &*it;
+    return it == d->children.end() ? nullptr : &*it;
 }
 
 Property* Property::GetChild(const std::string& name)
@@ -96,19 +90,19 @@ std::string Property::GetChildString(const std::string& name, const std::string&
 
 Property& Property::AddChild(const std::string& name, const std::string& value)
 {
-    m_impl->children.emplace_back(name, value);
-    return m_impl->children.back();
+    d->children.emplace_back(name, value);
+    return d->children.back();
 }
 
 const std::list<Property>& Property::GetChildren() const
 {
-    return m_impl->children;
+    return d->children;
 }
 
 void Property::Clear()
 {
-    m_impl->value.clear();
-    m_impl->children.clear();
+    d->value.clear();
+    d->children.clear();
 }
 
 } // namespace Ostrel::Core

@@ -13,7 +13,7 @@ namespace {
 
 // Nesting deeper than this is no title or settings file anyone writes; refusing it keeps a
 // hostile file from building a tree that later recursion (Serialize, destruction) can't handle.
-constexpr std::size_t kMaxDepth = 64;
+constexpr std::size_t MaxDepth = 64;
 
 bool isBlank(char c)
 {
@@ -134,7 +134,7 @@ bool PropertySerializer::Deserialize(Property& property, const std::shared_ptr<D
             return false;
         }
         if (rest == "{") {
-            if (open.size() > kMaxDepth) {
+            if (open.size() > MaxDepth) {
                 LOG(WARNING) << "Property text: nesting too deep on line " << lineNumber;
                 return false;
             }

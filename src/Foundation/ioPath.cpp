@@ -7,17 +7,15 @@
 
 namespace Ostrel::Core {
 
-struct ioPath::Impl
+class ioPath::Impl
 {
+public:
     std::string path;
 };
 
-ioPath::ioPath() : m_impl(std::make_unique<Impl>()) {}
+ioPath::ioPath() : d(std::make_unique<Impl>()) {}
 
-ioPath::ioPath(const std::string& utf8)
-    : m_impl(std::make_unique<Impl>(Impl{ioPathPlatform::toInternal(utf8)}))
-{
-}
+ioPath::ioPath(const std::string& utf8) : d(std::make_unique<Impl>(Impl{ioPathPlatform::toInternal(utf8)})) {}
 
 ioPath::ioPath(const char* utf8) : ioPath(std::string(utf8 ? utf8 : "")) {}
 
@@ -28,7 +26,7 @@ ioPath ioPath::fromNative(const native_string& native)
     return ioPath(ioPathPlatform::fromNative(native));
 }
 
-ioPath::ioPath(const ioPath& other) : m_impl(std::make_unique<Impl>(Impl{other.raw()})) {}
+ioPath::ioPath(const ioPath& other) : d(std::make_unique<Impl>(Impl{other.raw()})) {}
 
 // A moved-from path keeps no Impl: raw() reads it as empty, and assigning to it restores one.
 ioPath::ioPath(ioPath&& other) noexcept = default;
@@ -36,7 +34,7 @@ ioPath::ioPath(ioPath&& other) noexcept = default;
 ioPath& ioPath::operator=(const ioPath& other)
 {
     if (this != &other)
-        m_impl = std::make_unique<Impl>(Impl{other.raw()});
+        d = std::make_unique<Impl>(Impl{other.raw()});
     return *this;
 }
 
@@ -47,7 +45,7 @@ ioPath::~ioPath() = default;
 const std::string& ioPath::raw() const
 {
     static const std::string empty;
-    return m_impl ? m_impl->path : empty;
+    return d ? d->path : empty;
 }
 
 std::string ioPath::utf8() const
@@ -108,7 +106,7 @@ ioPath& ioPath::operator/=(const ioPath& other)
     if (joined.back() != '/')
         joined += '/';
     joined += right;
-    m_impl = std::make_unique<Impl>(Impl{std::move(joined)});
+    d = std::make_unique<Impl>(Impl{std::move(joined)});
     return *this;
 }
 

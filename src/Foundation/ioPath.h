@@ -66,8 +66,8 @@ public:
 private:
     const std::string& raw() const;
 
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 inline ioPath operator/(ioPath left, const ioPath& right)

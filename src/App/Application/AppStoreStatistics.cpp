@@ -15,17 +15,17 @@ namespace Ostrel::App {
 namespace {
 
 // Builds of other stores may switch the question off; this library always asks.
-constexpr bool kAskForStatistics = true;
+constexpr bool AskForStatistics = true;
 
 // Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint.
-constexpr int kStatisticsWindowFlags = 259;
+constexpr int StatisticsWindowFlags = 259;
 
 } // namespace
 
 void requestAppStoreStatistics(const std::shared_ptr<IApplicationSettingsManager>& settings,
                                const std::shared_ptr<ICustomizationManager>& customization)
 {
-    if (!kAskForStatistics)
+    if (!AskForStatistics)
         return;
     if (!settings) {
         LOG(WARNING) << "requestAppStoreStatistics: no settings manager, not asking";
@@ -37,9 +37,10 @@ void requestAppStoreStatistics(const std::shared_ptr<IApplicationSettingsManager
         return;
 
     const QString name = customization ? Util::Utf8ToQString(customization->GetPresentableName()) : QString();
-    Util::AlertBox box(static_cast<Util::AlertBox::Level>(2), QApplication::tr("Attention"),
-                       QApplication::tr("Help improve %1 software by automatically sending anonymous usage stats").arg(name),
-                       QMessageBox::Ok | QMessageBox::Cancel, nullptr, Qt::WindowFlags(kStatisticsWindowFlags));
+    Util::AlertBox box(
+        static_cast<Util::AlertBox::Level>(2), QApplication::tr("Attention"),
+        QApplication::tr("Help improve %1 software by automatically sending anonymous usage stats").arg(name),
+        QMessageBox::Ok | QMessageBox::Cancel, nullptr, Qt::WindowFlags(StatisticsWindowFlags));
     box.setObjectName(QStringLiteral("requestAppStoreStatistics"));
     box.button(QMessageBox::Ok)->setText(QApplication::tr("Agree"));
     box.button(QMessageBox::Cancel)->setText(QApplication::tr("Disagree"));

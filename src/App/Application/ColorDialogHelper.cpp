@@ -12,27 +12,28 @@ namespace Ostrel::App {
 
 namespace {
 
-const char* const kGroup = "Ostrel::App::ColorDialogHelper";
+const char* const SettingsGroup = "Ostrel::App::ColorDialogHelper";
 
 std::string countKey()
 {
-    return std::string(kGroup) + "/ColorsCount";
+    return std::string(SettingsGroup) + "/ColorsCount";
 }
 
 std::string colorKey(int index)
 {
-    return std::string(kGroup) + "/Color" + std::to_string(index);
+    return std::string(SettingsGroup) + "/Color" + std::to_string(index);
 }
 
 } // namespace
 
-struct ColorDialogHelper::Impl
+class ColorDialogHelper::Impl
 {
+public:
     std::shared_ptr<IApplicationSettingsManager> settings;
 };
 
 ColorDialogHelper::ColorDialogHelper(const std::shared_ptr<IApplicationSettingsManager>& settings)
-    : m_impl(std::make_unique<Impl>(Impl{settings}))
+    : d(std::make_unique<Impl>(Impl{settings}))
 {
     if (!settings)
         return;
@@ -44,20 +45,17 @@ ColorDialogHelper::ColorDialogHelper(const std::shared_ptr<IApplicationSettingsM
         QColorDialog::setCustomColor(i, QColor(Util::Utf8ToQString(settings->GetString(colorKey(i), transparent))));
 }
 
-ColorDialogHelper::ColorDialogHelper(const ColorDialogHelper& other)
-    : m_impl(std::make_unique<Impl>(*other.m_impl))
-{
-}
+ColorDialogHelper::ColorDialogHelper(const ColorDialogHelper& other) : d(std::make_unique<Impl>(*other.d)) {}
 
 ColorDialogHelper& ColorDialogHelper::operator=(const ColorDialogHelper& other)
 {
-    *m_impl = *other.m_impl;
+    *d = *other.d;
     return *this;
 }
 
 ColorDialogHelper::~ColorDialogHelper()
 {
-    const auto& settings = m_impl->settings;
+    const auto& settings = d->settings;
     if (!settings)
         return;
     const int count = QColorDialog::customCount();
@@ -68,7 +66,7 @@ ColorDialogHelper::~ColorDialogHelper()
                  Util::QStringToUtf8(QColorDialog::customColor(i).name());
     if (stored)
         return;
-    settings->RemoveGroup(kGroup);
+    settings->RemoveGroup(SettingsGroup);
     settings->SetInt(countKey(), count);
     for (int i = 0; i < count; ++i)
         settings->SetString(colorKey(i), Util::QStringToUtf8(QColorDialog::customColor(i).name()));

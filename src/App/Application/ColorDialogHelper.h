@@ -20,8 +20,8 @@ public:
     virtual ~ColorDialogHelper();
 
 private:
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 } // namespace Ostrel::App

@@ -10,8 +10,9 @@
 
 namespace Ostrel::App {
 
-struct ConfirmationAlertBox::Impl
+class ConfirmationAlertBox::Impl
 {
+public:
     std::shared_ptr<IApplicationSettingsManager> m_settings;
     QString m_confirmationId;
     QCheckBox* m_dontConfirmCheckBox = nullptr;
@@ -22,37 +23,35 @@ struct ConfirmationAlertBox::Impl
 };
 
 ConfirmationAlertBox::ConfirmationAlertBox(std::shared_ptr<IApplicationSettingsManager> settings,
-                                           Util::AlertBox::Level level, const QString& title, const QString& text,
-                                           QMessageBox::StandardButtons buttons, QWidget* parent,
-                                           Qt::WindowFlags flags)
-    : AlertBox(level, title, text, buttons, parent, flags)
-    , m_impl(std::make_unique<Impl>())
+                                           Util::AlertBox::Level level, const QString& title,
+                                           const QString& text, QMessageBox::StandardButtons buttons,
+                                           QWidget* parent, Qt::WindowFlags flags)
+    : AlertBox(level, title, text, buttons, parent, flags), d(std::make_unique<Impl>())
 {
-    m_impl->m_settings = std::move(settings);
-    m_impl->m_dontConfirmCheckBox = new QCheckBox(this);
-    m_impl->m_dontConfirmCheckBox->setObjectName(QStringLiteral("dontConfirmCheckBox"));
-    m_impl->m_dontConfirmCheckBox->setText(tr("Don't show this again"));
-    setCheckBox(m_impl->m_dontConfirmCheckBox);
+    d->m_settings = std::move(settings);
+    d->m_dontConfirmCheckBox = new QCheckBox(this);
+    d->m_dontConfirmCheckBox->setObjectName(QStringLiteral("dontConfirmCheckBox"));
+    d->m_dontConfirmCheckBox->setText(tr("Don't show this again"));
+    setCheckBox(d->m_dontConfirmCheckBox);
 }
 
 ConfirmationAlertBox::~ConfirmationAlertBox() = default;
 
 QMessageBox::StandardButton ConfirmationAlertBox::Exec()
 {
-    Impl& d = *m_impl;
-    if (d.m_dontConfirmCheckBox->isChecked())
+    if (d->m_dontConfirmCheckBox->isChecked())
         return static_cast<QMessageBox::StandardButton>(ReadAnswer());
 
     const QMessageBox::StandardButton answer = AlertBox::Exec();
-    if (!d.m_dontConfirmCheckBox->isChecked())
+    if (!d->m_dontConfirmCheckBox->isChecked())
         return answer;
 
     auto* buttons = findChild<QDialogButtonBox*>();
     const QDialogButtonBox::ButtonRole role =
         buttons && clickedButton() ? buttons->buttonRole(clickedButton()) : QDialogButtonBox::InvalidRole;
-    if (!d.m_rememberOnReject && role == QDialogButtonBox::RejectRole)
+    if (!d->m_rememberOnReject && role == QDialogButtonBox::RejectRole)
         return answer;
-    if (d.m_rememberOnly && !(d.m_rememberOnly & answer))
+    if (d->m_rememberOnly && !(d->m_rememberOnly & answer))
         return answer;
 
     WriteDontConfirm(true);
@@ -62,59 +61,59 @@ QMessageBox::StandardButton ConfirmationAlertBox::Exec()
 
 void ConfirmationAlertBox::SetConfirmationId(const QString& id)
 {
-    m_impl->m_confirmationId = id;
-    m_impl->m_dontConfirmCheckBox->setChecked(ReadDontConfirm());
+    d->m_confirmationId = id;
+    d->m_dontConfirmCheckBox->setChecked(ReadDontConfirm());
 }
 
 QString ConfirmationAlertBox::GetConfirmationId() const
 {
-    return m_impl->m_confirmationId;
+    return d->m_confirmationId;
 }
 
 void ConfirmationAlertBox::SetConfirmationText(const QString& text)
 {
-    m_impl->m_dontConfirmCheckBox->setText(text);
+    d->m_dontConfirmCheckBox->setText(text);
 }
 
 QString ConfirmationAlertBox::GetConfirmationText() const
 {
-    return m_impl->m_dontConfirmCheckBox->text();
+    return d->m_dontConfirmCheckBox->text();
 }
 
 void ConfirmationAlertBox::SetDontConfirm(bool dontConfirm)
 {
-    m_impl->m_dontConfirmCheckBox->setChecked(dontConfirm);
+    d->m_dontConfirmCheckBox->setChecked(dontConfirm);
 }
 
 bool ConfirmationAlertBox::IsDontConfirm() const
 {
-    return m_impl->m_dontConfirmCheckBox->isChecked();
+    return d->m_dontConfirmCheckBox->isChecked();
 }
 
 void ConfirmationAlertBox::SetRememberOnReject(bool remember)
 {
-    m_impl->m_rememberOnReject = remember;
+    d->m_rememberOnReject = remember;
 }
 
 bool ConfirmationAlertBox::RememberOnReject() const
 {
-    return m_impl->m_rememberOnReject;
+    return d->m_rememberOnReject;
 }
 
 void ConfirmationAlertBox::SetRememberOnly(QMessageBox::StandardButtons buttons)
 {
-    m_impl->m_rememberOnly = buttons;
+    d->m_rememberOnly = buttons;
 }
 
 QMessageBox::StandardButtons ConfirmationAlertBox::RememberOnly() const
 {
-    return m_impl->m_rememberOnly;
+    return d->m_rememberOnly;
 }
 
 void ConfirmationAlertBox::SetForceSaveAnswer(int answer)
 {
-    m_impl->m_forceSaveAnswer = true;
-    m_impl->m_forcedAnswer = answer;
+    d->m_forceSaveAnswer = true;
+    d->m_forcedAnswer = answer;
 }
 
 void ConfirmationAlertBox::Reset()
@@ -124,27 +123,27 @@ void ConfirmationAlertBox::Reset()
 
 std::string ConfirmationAlertBox::GetSettingKey(const std::string& key) const
 {
-    return (boost::format("confirm/%1%_%2%") % Util::QStringToUtf8(m_impl->m_confirmationId) % key).str();
+    return (boost::format("confirm/%1%_%2%") % Util::QStringToUtf8(d->m_confirmationId) % key).str();
 }
 
 int ConfirmationAlertBox::ReadAnswer() const
 {
-    return m_impl->m_settings->GetInt(GetSettingKey("answer"), 0);
+    return d->m_settings->GetInt(GetSettingKey("answer"), 0);
 }
 
 bool ConfirmationAlertBox::ReadDontConfirm() const
 {
-    return m_impl->m_settings->GetBool(GetSettingKey("dont_confirm"), false);
+    return d->m_settings->GetBool(GetSettingKey("dont_confirm"), false);
 }
 
 void ConfirmationAlertBox::WriteAnswer(int answer)
 {
-    m_impl->m_settings->SetInt(GetSettingKey("answer"), m_impl->m_forceSaveAnswer ? m_impl->m_forcedAnswer : answer);
+    d->m_settings->SetInt(GetSettingKey("answer"), d->m_forceSaveAnswer ? d->m_forcedAnswer : answer);
 }
 
 void ConfirmationAlertBox::WriteDontConfirm(bool value)
 {
-    m_impl->m_settings->SetBool(GetSettingKey("dont_confirm"), value);
+    d->m_settings->SetBool(GetSettingKey("dont_confirm"), value);
 }
 
 } // namespace Ostrel::App

@@ -54,8 +54,8 @@ private:
     void WriteAnswer(int answer);
     void WriteDontConfirm(bool value);
 
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 } // namespace Ostrel::App

@@ -12,8 +12,9 @@
 
 namespace Ostrel::App {
 
-struct LifetimeManager::Impl
+class LifetimeManager::Impl
 {
+public:
     Core::EventHandlerList<ILifetimeObserver> observers;
     std::list<OnStartHandler> onStartHandlers;
     bool started = false;

@@ -34,7 +34,7 @@ protected:
     virtual void quitImpl();
 
 private:
-    struct Impl;
+    class Impl;
     std::unique_ptr<Impl> d;
 };
 

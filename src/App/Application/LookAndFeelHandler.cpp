@@ -57,8 +57,9 @@ void check(const ActionMap& actions, const std::string& key)
 
 } // namespace
 
-struct LookAndFeelHandler::Impl
+class LookAndFeelHandler::Impl
 {
+public:
     std::shared_ptr<ILookAndFeelManager> m_manager;
     QMenu* m_localeMenu = nullptr;
     QActionGroup* m_localeGroup = nullptr;
@@ -86,87 +87,82 @@ struct LookAndFeelHandler::Impl
 
 LookAndFeelHandler::LookAndFeelHandler(std::shared_ptr<ILookAndFeelManager> manager, QMenu* localeMenu,
                                        QMenu* themeMenu, QObject* parent)
-    : QObject(parent)
-    , m_impl(std::make_unique<Impl>())
+    : QObject(parent), d(std::make_unique<Impl>())
 {
-    Impl& d = *m_impl;
-    d.m_manager = std::move(manager);
-    d.m_localeMenu = localeMenu;
-    d.m_themeMenu = themeMenu;
-    if (d.m_manager)
-        d.m_manager->RegisterObserver(this);
-    d.m_localeGroup = new QActionGroup(this);
-    d.m_themeGroup = new QActionGroup(this);
-    connect(d.m_localeGroup, &QActionGroup::triggered, this, &LookAndFeelHandler::OnInnerLocaleChanged);
-    connect(d.m_localeGroup, &QActionGroup::triggered, this, &LookAndFeelHandler::Retranslate);
-    connect(d.m_themeGroup, &QActionGroup::triggered, this, &LookAndFeelHandler::OnInnerThemeChanged);
+    d->m_manager = std::move(manager);
+    d->m_localeMenu = localeMenu;
+    d->m_themeMenu = themeMenu;
+    if (d->m_manager)
+        d->m_manager->RegisterObserver(this);
+    d->m_localeGroup = new QActionGroup(this);
+    d->m_themeGroup = new QActionGroup(this);
+    connect(d->m_localeGroup, &QActionGroup::triggered, this, &LookAndFeelHandler::OnInnerLocaleChanged);
+    connect(d->m_localeGroup, &QActionGroup::triggered, this, &LookAndFeelHandler::Retranslate);
+    connect(d->m_themeGroup, &QActionGroup::triggered, this, &LookAndFeelHandler::OnInnerThemeChanged);
 }
 
 LookAndFeelHandler::~LookAndFeelHandler()
 {
-    if (m_impl->m_manager)
-        m_impl->m_manager->UnregisterObserver(this);
+    if (d->m_manager)
+        d->m_manager->UnregisterObserver(this);
 }
 
 void LookAndFeelHandler::SetLocaleList(const std::list<std::string>& locales)
 {
-    Impl& d = *m_impl;
-    d.m_locales = locales;
-    if (d.m_localeMenu) {
-        d.rebuildLocales();
-        d.m_localeMenu->addSeparator();
+    d->m_locales = locales;
+    if (d->m_localeMenu) {
+        d->rebuildLocales();
+        d->m_localeMenu->addSeparator();
     }
 }
 
 void LookAndFeelHandler::SetThemeList(const std::list<std::string>& themes)
 {
-    Impl& d = *m_impl;
-    d.m_themes = themes;
-    if (d.m_themeMenu)
-        d.rebuildThemes();
+    d->m_themes = themes;
+    if (d->m_themeMenu)
+        d->rebuildThemes();
 }
 
 void LookAndFeelHandler::SetLocaleMenu(QMenu* menu)
 {
-    if (m_impl->m_localeMenu)
-        m_impl->m_localeMenu->clear();
-    m_impl->m_localeMenu = menu;
+    if (d->m_localeMenu)
+        d->m_localeMenu->clear();
+    d->m_localeMenu = menu;
     Refresh();
 }
 
 void LookAndFeelHandler::SetThemeMenu(QMenu* menu)
 {
-    if (m_impl->m_themeMenu)
-        m_impl->m_themeMenu->clear();
-    m_impl->m_themeMenu = menu;
+    if (d->m_themeMenu)
+        d->m_themeMenu->clear();
+    d->m_themeMenu = menu;
     Refresh();
 }
 
 void LookAndFeelHandler::SelectLocale(const std::string& locale)
 {
-    m_impl->m_selectedLocale = locale;
-    if (m_impl->m_localeMenu)
-        check(m_impl->m_localeActions, locale);
+    d->m_selectedLocale = locale;
+    if (d->m_localeMenu)
+        check(d->m_localeActions, locale);
 }
 
 void LookAndFeelHandler::SelectTheme(const std::string& theme)
 {
-    m_impl->m_selectedTheme = theme;
-    if (m_impl->m_themeMenu)
-        check(m_impl->m_themeActions, theme);
+    d->m_selectedTheme = theme;
+    if (d->m_themeMenu)
+        check(d->m_themeActions, theme);
 }
 
 void LookAndFeelHandler::Refresh()
 {
-    Impl& d = *m_impl;
-    if (d.m_localeMenu && !d.m_selectedLocale.empty()) {
-        d.rebuildLocales();
-        d.m_localeMenu->addSeparator();
-        check(d.m_localeActions, d.m_selectedLocale);
+    if (d->m_localeMenu && !d->m_selectedLocale.empty()) {
+        d->rebuildLocales();
+        d->m_localeMenu->addSeparator();
+        check(d->m_localeActions, d->m_selectedLocale);
     }
-    if (d.m_themeMenu && !d.m_selectedTheme.empty()) {
-        d.rebuildThemes();
-        check(d.m_themeActions, d.m_selectedTheme);
+    if (d->m_themeMenu && !d->m_selectedTheme.empty()) {
+        d->rebuildThemes();
+        check(d->m_themeActions, d->m_selectedTheme);
     }
 }
 
@@ -185,7 +181,7 @@ void LookAndFeelHandler::OnInnerLocaleChanged(QAction* action)
     const std::string locale = QStringToUtf8(action->data().toString());
     // The manager may settle on another locale and tell us through OnLocaleChanged; the user's
     // click is what the menu shows and what the signal carries.
-    m_impl->m_manager->SetLocale(locale);
+    d->m_manager->SetLocale(locale);
     SelectLocale(locale);
     emit LocaleChanged(locale);
 }
@@ -193,18 +189,17 @@ void LookAndFeelHandler::OnInnerLocaleChanged(QAction* action)
 void LookAndFeelHandler::OnInnerThemeChanged(QAction* action)
 {
     const std::string theme = QStringToUtf8(action->data().toString());
-    m_impl->m_manager->SetTheme(theme);
+    d->m_manager->SetTheme(theme);
     SelectTheme(theme);
     emit ThemeChanged(theme);
 }
 
 void LookAndFeelHandler::Retranslate()
 {
-    Impl& d = *m_impl;
-    for (const auto& [key, action] : d.m_localeActions)
+    for (const auto& [key, action] : d->m_localeActions)
         action->setText(Utf8ToQString(GetLocaleDisplayName(QStringToUtf8(action->data().toString()))));
-    for (const auto& [key, action] : d.m_themeActions)
-        action->setText(Utf8ToQString(d.themeTitle(QStringToUtf8(action->data().toString()))));
+    for (const auto& [key, action] : d->m_themeActions)
+        action->setText(Utf8ToQString(d->themeTitle(QStringToUtf8(action->data().toString()))));
 }
 
 } // namespace Ostrel::App

@@ -50,8 +50,8 @@ private slots:
     void Retranslate();
 
 private:
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 } // namespace Ostrel::App

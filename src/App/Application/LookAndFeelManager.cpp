@@ -41,13 +41,13 @@ using Util::Utf8ToQString;
 namespace {
 
 // The one platform token of file names and JSON sections; builds for other systems share it.
-const char* const kPlatform = "win";
-const char* const kUnknownLocale = "unknown";
-const char* const kFallbackLocale = "en_US";
+const char* const PlatformName = "win";
+const char* const UnknownLocale = "unknown";
+const char* const FallbackLocale = "en_US";
 
 QString platformToken()
 {
-    return QString::fromLatin1(kPlatform);
+    return QString::fromLatin1(PlatformName);
 }
 
 std::list<std::string> subdirectoryNames(const QString& directory)
@@ -112,8 +112,9 @@ struct CompositionInputs
 
 } // namespace
 
-struct LookAndFeelManager::Impl
+class LookAndFeelManager::Impl
 {
+public:
     Core::ioPath m_path;
     std::list<std::string> m_resourceBaseNames;
     std::list<std::string> m_locales;
@@ -221,31 +222,30 @@ struct LookAndFeelManager::Impl
 LookAndFeelManager::LookAndFeelManager(const Core::ioPath& path, const std::string& themeTitleFileName,
                                        const std::list<std::string>& resourceBaseNames,
                                        const std::list<std::string>& /*unused*/)
-    : m_impl(std::make_unique<Impl>())
+    : d(std::make_unique<Impl>())
 {
-    Impl& d = *m_impl;
-    d.m_path = path;
-    d.m_resourceBaseNames = resourceBaseNames;
+    d->m_path = path;
+    d->m_resourceBaseNames = resourceBaseNames;
 
-    const QString root = d.resourcesDir();
+    const QString root = d->resourcesDir();
     const QFileInfoList entries = QDir(root).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::NoSort);
     for (const QFileInfo& entry : entries) {
         if (!entry.isDir())
             continue;
         const QString base = entry.baseName();
         if (base == QLatin1String("locales")) {
-            d.m_locales = subdirectoryNames(entry.absoluteFilePath());
+            d->m_locales = subdirectoryNames(entry.absoluteFilePath());
         } else if (base == QLatin1String("themes")) {
             for (const std::string& theme : subdirectoryNames(entry.absoluteFilePath())) {
-                QFile title(d.titleFile(theme, themeTitleFileName));
+                QFile title(d->titleFile(theme, themeTitleFileName));
                 if (title.open(QIODevice::ReadOnly | QIODevice::Text))
-                    d.m_themes.push_back(theme);
+                    d->m_themes.push_back(theme);
             }
         }
     }
 
-    for (const std::string& theme : d.m_themes) {
-        QFile title(d.titleFile(theme, themeTitleFileName));
+    for (const std::string& theme : d->m_themes) {
+        QFile title(d->titleFile(theme, themeTitleFileName));
         // A title file that vanished since the listing leaves the theme without a record; its
         // menu entry then shows the folder name.
         if (!title.open(QIODevice::ReadOnly | QIODevice::Text))
@@ -256,7 +256,7 @@ LookAndFeelManager::LookAndFeelManager(const Core::ioPath& path, const std::stri
                 property, Core::DataInputString::Create(std::string(bytes.constData(), size_t(bytes.size()))),
                 true))
             LOG(WARNING) << "The title file of theme [" << theme << "] is damaged; using what could be read";
-        d.m_themeTitles[theme] = std::move(property);
+        d->m_themeTitles[theme] = std::move(property);
     }
 }
 
@@ -270,17 +270,17 @@ void LookAndFeelManager::Initialize(const std::string& locale, const std::string
 
 const std::string& LookAndFeelManager::GetCurrentLocale() const
 {
-    return m_impl->m_currentLocale;
+    return d->m_currentLocale;
 }
 
 const std::list<std::string>& LookAndFeelManager::GetLocales() const
 {
-    return m_impl->m_locales;
+    return d->m_locales;
 }
 
 const std::list<std::string>& LookAndFeelManager::GetThemes() const
 {
-    return m_impl->m_themes;
+    return d->m_themes;
 }
 
 QStringList LookAndFeelManager::GetSystemLanguages() const
@@ -308,18 +308,18 @@ std::list<std::string> LookAndFeelManager::systemCandidates() const
 
 std::string LookAndFeelManager::ValidateLocale(const std::string& requested) const
 {
-    const auto& locales = m_impl->m_locales;
-    if (!requested.empty() && requested != kUnknownLocale &&
+    const auto& locales = d->m_locales;
+    if (!requested.empty() && requested != UnknownLocale &&
         std::find(locales.begin(), locales.end(), requested) != locales.end())
         return requested;
 
-    if (!m_impl->m_candidates)
-        m_impl->m_candidates = systemCandidates();
-    const std::list<std::string>& candidates = *m_impl->m_candidates;
+    if (!d->m_candidates)
+        d->m_candidates = systemCandidates();
+    const std::list<std::string>& candidates = *d->m_candidates;
 
     std::string result = GetDefaultLocale();
-    if (result.empty() || result == kUnknownLocale)
-        result = kFallbackLocale;
+    if (result.empty() || result == UnknownLocale)
+        result = FallbackLocale;
 
     for (const std::string& candidate : candidates) {
         for (const std::string& installed : locales) {
@@ -332,46 +332,44 @@ std::string LookAndFeelManager::ValidateLocale(const std::string& requested) con
 
 void LookAndFeelManager::SetLocale(const std::string& locale)
 {
-    Impl& d = *m_impl;
     const std::string validated = ValidateLocale(locale);
-    if (validated == d.m_currentLocale)
+    if (validated == d->m_currentLocale)
         return;
-    d.m_currentLocale = validated;
+    d->m_currentLocale = validated;
 
-    for (const auto& translator : d.m_translators)
+    for (const auto& translator : d->m_translators)
         QCoreApplication::removeTranslator(translator.get());
-    d.m_translators.clear();
+    d->m_translators.clear();
 
-    for (const QString& file : d.translationFiles()) {
+    for (const QString& file : d->translationFiles()) {
         auto translator = std::make_shared<QTranslator>();
         if (translator->load(file, QString(), QString(), QString())) {
             QCoreApplication::installTranslator(translator.get());
-            d.m_translators.push_back(translator);
+            d->m_translators.push_back(translator);
         }
     }
 
-    d.m_observers.Notify(&ILookAndFeelObserver::OnLocaleChanged, d.m_currentLocale);
+    d->m_observers.Notify(&ILookAndFeelObserver::OnLocaleChanged, d->m_currentLocale);
 }
 
 void LookAndFeelManager::SetTheme(const std::string& theme)
 {
-    Impl& d = *m_impl;
     // No early return for the current name: setting it again recomposes what changed (a new
     // locale's macros) and notifies. Its resources stay registered once.
-    if (theme != d.m_currentTheme)
-        d.ClearCurrentTheme();
+    if (theme != d->m_currentTheme)
+        d->ClearCurrentTheme();
     if (theme.empty())
         return;
-    d.m_currentTheme = theme;
+    d->m_currentTheme = theme;
 
     ThemeDescription description;
     const QString platform = platformToken();
-    for (const QFileInfo& file : d.GetFilteredResourceList()) {
+    for (const QFileInfo& file : d->GetFilteredResourceList()) {
         if (!file.isFile())
             continue;
         const QString path = file.absoluteFilePath();
-        if (!d.m_registeredResources.contains(path) && QResource::registerResource(path, QString()))
-            d.m_registeredResources.append(path);
+        if (!d->m_registeredResources.contains(path) && QResource::registerResource(path, QString()))
+            d->m_registeredResources.append(path);
         const QString prefix = QStringLiteral(":/") + file.baseName() + QLatin1Char('/');
         description.styleFiles.push_back(QStringToUtf8(prefix + QStringLiteral("style.qss")));
         description.styleFiles.push_back(
@@ -384,31 +382,29 @@ void LookAndFeelManager::SetTheme(const std::string& theme)
         QStringToUtf8(QStringLiteral(":/productStyle_") + platform + QStringLiteral(".qss")));
 
     ApplyTheme(description);
-    d.m_observers.Notify(&ILookAndFeelObserver::OnThemeChanged, d.m_currentTheme);
+    d->m_observers.Notify(&ILookAndFeelObserver::OnThemeChanged, d->m_currentTheme);
 }
 
 const std::string& LookAndFeelManager::GetCurrentTheme() const
 {
-    return m_impl->m_currentTheme;
+    return d->m_currentTheme;
 }
 
 std::string LookAndFeelManager::GetLocalizedThemeName(const std::string& theme) const
 {
-    const Impl& d = *m_impl;
-    const auto it = d.m_themeTitles.find(theme);
-    if (it != d.m_themeTitles.end() && it->second.ChildExists(d.m_currentLocale))
-        return it->second.GetChildString(d.m_currentLocale);
-    LOG(WARNING) << "No title found for theme [" << theme << "] on language [" << d.m_currentLocale << "]!";
+    const auto it = d->m_themeTitles.find(theme);
+    if (it != d->m_themeTitles.end() && it->second.ChildExists(d->m_currentLocale))
+        return it->second.GetChildString(d->m_currentLocale);
+    LOG(WARNING) << "No title found for theme [" << theme << "] on language [" << d->m_currentLocale << "]!";
     return theme;
 }
 
 void LookAndFeelManager::ApplyTheme(const ThemeDescription& description)
 {
-    Impl& d = *m_impl;
-    d.m_unitedStylesheet.clear();
+    d->m_unitedStylesheet.clear();
 
     CompositionInputs inputs;
-    inputs.locale = d.m_currentLocale;
+    inputs.locale = d->m_currentLocale;
     for (const std::string& path : description.macroFiles)
         inputs.macroFiles.push_back(readText(path));
     for (const std::string& path : description.styleFiles)
@@ -427,12 +423,12 @@ void LookAndFeelManager::ApplyTheme(const ThemeDescription& description)
         }
     }
 
-    if (!d.m_composedFrom || !(*d.m_composedFrom == inputs)) {
+    if (!d->m_composedFrom || !(*d->m_composedFrom == inputs)) {
         std::map<QString, QString> macros;
         const QString platform = platformToken();
         const QString allPlatforms = QStringLiteral("all_platforms");
         const QString allLanguages = QStringLiteral("all_languages");
-        const QString locale = Utf8ToQString(d.m_currentLocale);
+        const QString locale = Utf8ToQString(d->m_currentLocale);
         for (const std::optional<QByteArray>& bytes : inputs.macroFiles) {
             if (!bytes)
                 continue;
@@ -440,10 +436,10 @@ void LookAndFeelManager::ApplyTheme(const ThemeDescription& description)
             const QVariantMap root =
                 QJsonDocument::fromJson(stream.readAll().toLocal8Bit()).object().toVariantMap();
             // The most specific block comes last and wins.
-            d.mergeMacros(root, allPlatforms, allLanguages, &macros);
-            d.mergeMacros(root, allPlatforms, locale, &macros);
-            d.mergeMacros(root, platform, allLanguages, &macros);
-            d.mergeMacros(root, platform, locale, &macros);
+            d->mergeMacros(root, allPlatforms, allLanguages, &macros);
+            d->mergeMacros(root, allPlatforms, locale, &macros);
+            d->mergeMacros(root, platform, allLanguages, &macros);
+            d->mergeMacros(root, platform, locale, &macros);
         }
 
         QString text;
@@ -455,38 +451,38 @@ void LookAndFeelManager::ApplyTheme(const ThemeDescription& description)
         // Ascending key order, as if each macro were replaced in turn over the whole text: a macro
         // whose name is a prefix of another's replaces inside the longer one's occurrences too, so
         // theme authors must avoid such pairs.
-        d.m_composed = StylesheetMacros(macros).apply(std::move(text));
-        d.m_composedFrom = std::move(inputs);
+        d->m_composed = StylesheetMacros(macros).apply(std::move(text));
+        d->m_composedFrom = std::move(inputs);
     }
-    d.m_unitedStylesheet = d.m_composed;
+    d->m_unitedStylesheet = d->m_composed;
 
-    if (d.m_qssPreprocessor)
-        d.m_qssPreprocessor->Preprocess(d.m_unitedStylesheet);
+    if (d->m_qssPreprocessor)
+        d->m_qssPreprocessor->Preprocess(d->m_unitedStylesheet);
 }
 
 std::string LookAndFeelManager::GetUnitedStylesheet()
 {
-    return QStringToUtf8(m_impl->m_unitedStylesheet);
+    return QStringToUtf8(d->m_unitedStylesheet);
 }
 
 std::string LookAndFeelManager::GetDefaultLocale() const
 {
-    return kUnknownLocale;
+    return UnknownLocale;
 }
 
 void LookAndFeelManager::RegisterObserver(ILookAndFeelObserver* observer)
 {
-    m_impl->m_observers.RegisterEventHandler(observer);
+    d->m_observers.RegisterEventHandler(observer);
 }
 
 void LookAndFeelManager::UnregisterObserver(ILookAndFeelObserver* observer)
 {
-    m_impl->m_observers.UnregisterEventHandler(observer);
+    d->m_observers.UnregisterEventHandler(observer);
 }
 
 void LookAndFeelManager::SetQssPreprocessor(const std::shared_ptr<IQssPreprocessor>& preprocessor)
 {
-    m_impl->m_qssPreprocessor = preprocessor;
+    d->m_qssPreprocessor = preprocessor;
 }
 
 } // namespace Ostrel::App

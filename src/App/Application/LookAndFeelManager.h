@@ -63,8 +63,8 @@ private:
     std::list<std::string> systemCandidates() const;
     std::string ValidateLocale(const std::string& requested) const;
 
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 } // namespace Ostrel::App

@@ -10,8 +10,9 @@
 
 namespace Ostrel::App {
 
-struct MacMenuActionHandler::Impl
+class MacMenuActionHandler::Impl
 {
+public:
     std::function<bool(QWidget*)> canManipulate;
 };
 

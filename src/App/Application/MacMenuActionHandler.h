@@ -37,7 +37,7 @@ private Q_SLOTS:
 private:
     virtual bool canManipulateWithWidget(QWidget* widget);
 
-    struct Impl;
+    class Impl;
     std::unique_ptr<Impl> d;
 };
 

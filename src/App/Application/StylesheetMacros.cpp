@@ -12,7 +12,7 @@ namespace Ostrel::App {
 
 namespace {
 
-const QChar kMark = QLatin1Char('@');
+const QChar MacroMark = QLatin1Char('@');
 
 } // namespace
 
@@ -25,8 +25,9 @@ const QChar kMark = QLatin1Char('@');
 // property of the macro alone, worked out once, after the macros it may contain. Left undecided:
 // a segment that no key matches but that is the start of a longer key, when what follows it may
 // change (the next segment is replaced, or a value ends there).
-struct StylesheetMacros::Impl
+class StylesheetMacros::Impl
 {
+public:
     std::map<QString, QString> macros;
     std::vector<QString> keys; // ascending, as the ordered replacement runs them
     QHash<QStringView, int> indexOf;
@@ -64,13 +65,13 @@ struct StylesheetMacros::Impl
     // The winner of each segment of the whole text, in order; false when one scan can't tell.
     bool decide(QStringView text, std::vector<int>* winners) const
     {
-        qsizetype at = text.indexOf(kMark);
+        qsizetype at = text.indexOf(MacroMark);
         if (at < 0)
             return true;
-        qsizetype next = text.indexOf(kMark, at + 1);
+        qsizetype next = text.indexOf(MacroMark, at + 1);
         int segmentWinner = winner(segmentOf(text, at, next), 0);
         while (at >= 0) {
-            const qsizetype afterNext = next < 0 ? -1 : text.indexOf(kMark, next + 1);
+            const qsizetype afterNext = next < 0 ? -1 : text.indexOf(MacroMark, next + 1);
             const int nextWinner = next < 0 ? -1 : winner(segmentOf(text, next, afterNext), 0);
             if (segmentWinner < 0 && nextWinner >= 0 && startsLongerKey(segmentOf(text, at, next)))
                 return false;
@@ -89,14 +90,14 @@ struct StylesheetMacros::Impl
         QChar* buffer = text->data();
         const qsizetype size = text->size();
         const QStringView view(buffer, size);
-        const qsizetype first = view.indexOf(kMark);
+        const qsizetype first = view.indexOf(MacroMark);
         if (first < 0)
             return;
         qsizetype at = first;
         qsizetype out = first;
-        qsizetype next = view.indexOf(kMark, at + 1);
+        qsizetype next = view.indexOf(MacroMark, at + 1);
         for (const int segmentWinner : winners) {
-            const qsizetype afterNext = next < 0 ? -1 : view.indexOf(kMark, next + 1);
+            const qsizetype afterNext = next < 0 ? -1 : view.indexOf(MacroMark, next + 1);
             const qsizetype end = next < 0 ? size : next;
             qsizetype from = at;
             if (segmentWinner >= 0) {
@@ -122,7 +123,7 @@ struct StylesheetMacros::Impl
     // tell. `openEnd`: more text may follow (a value inside a sheet).
     bool expand(QStringView text, int first, bool openEnd, QString* out) const
     {
-        qsizetype at = text.indexOf(kMark);
+        qsizetype at = text.indexOf(MacroMark);
         if (at < 0) {
             out->append(text);
             return true;
@@ -132,11 +133,11 @@ struct StylesheetMacros::Impl
         const auto segment = [text](qsizetype from, qsizetype to) {
             return to < 0 ? text.mid(from) : text.mid(from, to - from);
         };
-        qsizetype next = text.indexOf(kMark, at + 1);
+        qsizetype next = text.indexOf(MacroMark, at + 1);
         int segmentWinner = winner(segment(at, next), first);
         while (at >= 0) {
             const QStringView current = segment(at, next);
-            const qsizetype afterNext = next < 0 ? -1 : text.indexOf(kMark, next + 1);
+            const qsizetype afterNext = next < 0 ? -1 : text.indexOf(MacroMark, next + 1);
             const int nextWinner = next < 0 ? -1 : winner(segment(next, afterNext), first);
             if (segmentWinner >= 0) {
                 if (!expanded[size_t(segmentWinner)])
@@ -162,7 +163,7 @@ StylesheetMacros::StylesheetMacros(const std::map<QString, QString>& macros) : d
     d->macros = macros;
     d->keys.reserve(macros.size());
     for (const auto& [key, value] : macros) {
-        if (key.isEmpty() || key.at(0) != kMark || key.indexOf(kMark, 1) >= 0)
+        if (key.isEmpty() || key.at(0) != MacroMark || key.indexOf(MacroMark, 1) >= 0)
             d->scannable = false;
         d->keys.push_back(key);
     }
@@ -179,7 +180,7 @@ StylesheetMacros::StylesheetMacros(const std::map<QString, QString>& macros) : d
     d->expanded.resize(d->keys.size());
     auto value = macros.crbegin();
     for (int i = int(d->keys.size()) - 1; i >= 0; --i, ++value) {
-        if (value->second.indexOf(kMark) < 0) {
+        if (value->second.indexOf(MacroMark) < 0) {
             d->expanded[size_t(i)] = value->second;
             continue;
         }

@@ -38,7 +38,7 @@ public:
     static QString applyInOrder(QString text, const std::map<QString, QString>& macros);
 
 private:
-    struct Impl;
+    class Impl;
     std::unique_ptr<Impl> d;
 };
 

@@ -2,8 +2,9 @@
 
 namespace Ostrel::App {
 
-struct Gesture::Emitter::Impl
+class Gesture::Emitter::Impl
 {
+public:
     bool zoomEnabled = false;
     bool rotateEnabled = false;
     bool tapEnabled = false;

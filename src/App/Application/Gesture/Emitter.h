@@ -50,7 +50,7 @@ private:
     int WantGesture(const Zoom& gesture) override;
     int WantGesture(const Pan& gesture) override;
 
-    struct Impl;
+    class Impl;
     std::unique_ptr<Impl> d;
 };
 

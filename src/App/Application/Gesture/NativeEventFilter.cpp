@@ -5,8 +5,9 @@
 
 namespace Ostrel::App {
 
-struct NativeEventFilter::Impl
+class NativeEventFilter::Impl
 {
+public:
     Gesture::IPlatformApi* api = nullptr;
     // One router for the filter's life, made when the first event comes; it belongs to the filter
     // as a child, so a second filter has a router of its own rather than a dangling shared one.

@@ -25,7 +25,7 @@ public:
     bool nativeEventFilter(const QByteArray& eventType, void* message, long* result) override;
 
 private:
-    struct Impl;
+    class Impl;
     std::unique_ptr<Impl> d;
 };
 

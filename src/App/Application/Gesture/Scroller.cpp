@@ -6,8 +6,9 @@
 
 namespace Ostrel::App {
 
-struct Gesture::Scroller::Impl
+class Gesture::Scroller::Impl
 {
+public:
     QAbstractScrollArea* area = nullptr;
     QAbstractItemView* itemView = nullptr;
     std::int32_t lastX = 0;

@@ -24,7 +24,7 @@ private Q_SLOTS:
     void scrollByPanning(const Ostrel::App::Gesture::Pan& pan);
 
 private:
-    struct Impl;
+    class Impl;
     std::unique_ptr<Impl> d;
 };
 

@@ -8,8 +8,9 @@
 
 namespace Ostrel::App {
 
-struct Gesture::TouchPanFilter::Impl
+class Gesture::TouchPanFilter::Impl
 {
+public:
     // The consumer is a child object of a widget (that is how the walk finds it): the guard
     // notices when it goes away in the middle of a sequence.
     QPointer<QObject> guard;

@@ -27,7 +27,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Impl;
+    class Impl;
     std::unique_ptr<Impl> d;
 };
 

@@ -11,7 +11,7 @@
 namespace Ostrel::App {
 
 namespace {
-constexpr bool kAutoUpdateDefault = true;
+constexpr bool AutoUpdateDefault = true;
 } // namespace
 
 class AutoUpdateRequester::Impl
@@ -41,7 +41,7 @@ AutoUpdateRequester::~AutoUpdateRequester() = default;
 
 void AutoUpdateRequester::onStart()
 {
-    if (!d->productSettingsManager->GetBool(ProductConstants::AutoUpdate, kAutoUpdateDefault))
+    if (!d->productSettingsManager->GetBool(ProductConstants::AutoUpdate, AutoUpdateDefault))
         return;
     Impl* impl = d.get();
     QTimer::singleShot(d->requestDelay, &d->timerContext, [impl]() {

@@ -21,8 +21,8 @@
 namespace Ostrel::App {
 
 namespace {
-constexpr int kCollectingLaunchType = 1;
-constexpr char kEmailDialogAction[] = "EMAIL_DIALOG";
+constexpr int CollectingLaunchType = 1;
+constexpr char EmailDialogAction[] = "EMAIL_DIALOG";
 
 // Only the exact one-character "1" counts as set.
 bool isSet(const ISettingsManager& settings, const std::string& key)
@@ -99,7 +99,7 @@ void EmailCollector::onStart()
         return;
     if (d->gateway) {
         const std::weak_ptr<bool> alive = d->aliveToken;
-        d->gateway->post({kEmailDialogAction, [this, alive]() {
+        d->gateway->post({EmailDialogAction, [this, alive]() {
                               if (alive.lock())
                                   showEmailDialog();
                           }});
@@ -110,7 +110,7 @@ void EmailCollector::onStart()
 
 bool EmailCollector::needCollectEmail() const
 {
-    return d->launchTypeProcessor->GetLaunchType() == kCollectingLaunchType &&
+    return d->launchTypeProcessor->GetLaunchType() == CollectingLaunchType &&
            d->customizationManager->IsEmailCollectionEnabled() &&
            !isSet(*d->mailSettingsManager, ProductConstants::IsRegUser);
 }

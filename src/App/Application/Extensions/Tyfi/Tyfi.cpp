@@ -17,11 +17,11 @@
 namespace Ostrel::App {
 
 namespace {
-constexpr int kFirstLaunchType = 1;
-constexpr int kBackgroundLaunchType = 4;
-constexpr char kTrackerEvent[] = "TYFI_CHECK_WINDOW";
-constexpr char kAttemptCountParam[] = "ATTEMPT_COUNT";
-constexpr char kGatewayAction[] = "THANK_FOR_INSTALL";
+constexpr int FirstLaunchType = 1;
+constexpr int BackgroundLaunchType = 4;
+constexpr char TrackerEvent[] = "TYFI_CHECK_WINDOW";
+constexpr char AttemptCountParam[] = "ATTEMPT_COUNT";
+constexpr char GatewayAction[] = "THANK_FOR_INSTALL";
 } // namespace
 
 class Tyfi::Impl
@@ -46,7 +46,7 @@ public:
     {
         if (customNeedOpenChecker)
             return customNeedOpenChecker();
-        return launchTypeProcessor->GetLaunchType() != kBackgroundLaunchType &&
+        return launchTypeProcessor->GetLaunchType() != BackgroundLaunchType &&
                !customizationManager->GetPageType().empty() &&
                productSettingsManager->GetString(ProductConstants::BundleName, std::string()).empty();
     }
@@ -58,7 +58,7 @@ public:
         const std::string pageType = customizationManager->GetPageType();
         QString url;
         if (pageType == "thankyou") {
-            url = linksManager->GetUrl(launchTypeProcessor->GetLaunchType() == kFirstLaunchType
+            url = linksManager->GetUrl(launchTypeProcessor->GetLaunchType() == FirstLaunchType
                                            ? URLKeys::THANK_FOR_INSTALL_URL
                                            : URLKeys::THANK_FOR_REINSTALL_URL);
         } else if (pageType == "buynow") {
@@ -71,10 +71,10 @@ public:
     void finished(int attemptCount)
     {
         if (const auto tracker = Tracking::ApplicationTrackerFactory::getApplicationTracker())
-            tracker->sendEvent(kTrackerEvent, {{kAttemptCountParam, std::to_string(attemptCount)}});
+            tracker->sendEvent(TrackerEvent, {{AttemptCountParam, std::to_string(attemptCount)}});
         if (gateway) {
             const std::weak_ptr<bool> alive = aliveToken;
-            gateway->post({kGatewayAction, [this, alive]() {
+            gateway->post({GatewayAction, [this, alive]() {
                                if (alive.lock())
                                    openPage();
                            }});
