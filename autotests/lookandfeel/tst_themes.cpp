@@ -260,7 +260,10 @@ private slots:
     }
 
     // The product style composed into every theme (styleFilesComeInResourceOrder) draws this.
-    void theAboutBoxPictureIsShipped() { QVERIFY(!QPixmap(QStringLiteral(":/About/about-top@2x.png")).isNull()); }
+    void theAboutBoxPictureIsShipped()
+    {
+        QVERIFY(!QPixmap(QStringLiteral(":/About/about-top@2x.png")).isNull());
+    }
 
     // Composition from plain files: the macro rules without a theme around them.
     void applyThemeComposition_data()
