@@ -7,6 +7,7 @@
 #include "Core/SettingsStore.h"
 #include "LogCapture.h"
 #include "TestEnvironment.h"
+#include "TestFiles.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -15,20 +16,10 @@ using Ostrel::App::CustomizationManager;
 using Ostrel::App::ILaunchTypeProcessor;
 using Ostrel::App::SettingsStore;
 using Ostrel::Test::LogCapture;
+using Ostrel::Test::readFile;
+using Ostrel::Test::writeFile;
 
 namespace {
-
-bool writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
-}
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 std::size_t countAtLeast(const LogCapture& log, google::LogSeverity severity)
 {

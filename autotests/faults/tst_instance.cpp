@@ -7,6 +7,7 @@
 
 #include "Ipc/LocalSocketProtocol.h"
 
+#include "ScopedEnvironmentVariable.h"
 #include "TestEnvironment.h"
 
 #include <QDir>
@@ -68,10 +69,10 @@ private Q_SLOTS:
         QTemporaryDir root;
         const QString runtime = root.filePath(QStringLiteral("runtime"));
         QVERIFY(HostProcess::MakeRuntimeFolder(runtime));
-        const QByteArray saved = qgetenv("XDG_RUNTIME_DIR");
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
+        Ostrel::Test::ScopedEnvironmentVariable runtimeDir("XDG_RUNTIME_DIR");
+        runtimeDir.set(QFile::encodeName(runtime));
         const QString path = LocalSocketProtocol::ServerNameFor(HostProcess::Product());
-        qputenv("XDG_RUNTIME_DIR", saved);
+        runtimeDir.restore();
         QVERIFY(!path.isEmpty());
 
         QLocalServer squatting;

@@ -1,3 +1,5 @@
+#include "TestFiles.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -5,6 +7,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+
+using Ostrel::Test::readFile;
+using Ostrel::Test::writeFile;
 
 namespace {
 
@@ -14,19 +19,6 @@ const QByteArray Address = "jane.roe@mail.example.org";
 const QFileDevice::Permissions GroupOrOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
                                                QFileDevice::ExeGroup | QFileDevice::ReadOther |
                                                QFileDevice::WriteOther | QFileDevice::ExeOther;
-
-bool writeFile(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
-}
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // A home of its own for one run of the real host: its settings, data and log live here.
 class HostHome

@@ -10,6 +10,19 @@
 
 namespace Ostrel::Test {
 
+/// The window system's own numbers, as its messages and gesture records carry them.
+namespace WindowSystem {
+inline constexpr std::uint32_t WM_GESTURE = 0x119;
+inline constexpr std::uint32_t WM_GESTURENOTIFY = 0x11A;
+inline constexpr std::uint32_t GID_BEGIN = 1;
+inline constexpr std::uint32_t GID_ZOOM = 3;
+inline constexpr std::uint32_t GID_PAN = 4;
+inline constexpr std::uint32_t GID_ROTATE = 5;
+inline constexpr std::uint32_t GID_TWOFINGERTAP = 6;
+inline constexpr std::uint32_t GID_PRESSANDTAP = 7;
+inline constexpr std::uint32_t GF_BEGIN = 1, GF_INERTIA = 2, GF_END = 4;
+} // namespace WindowSystem
+
 /// Stands in for the window system: records every call with its arguments, answers from what the
 /// test put in. Native messages and notify records are the structs below, and gesture handles are
 /// keys of `gestures`.

@@ -9,17 +9,10 @@
 
 using namespace Ostrel::App;
 using Ostrel::Test::FakePlatformApi;
+using namespace Ostrel::Test::WindowSystem;
 using Info = Gesture::IPlatformApi::Info;
 
 namespace {
-
-constexpr std::uint32_t GID_BEGIN = 1;
-constexpr std::uint32_t GID_ZOOM = 3;
-constexpr std::uint32_t GID_PAN = 4;
-constexpr std::uint32_t GID_ROTATE = 5;
-constexpr std::uint32_t GID_TWOFINGERTAP = 6;
-constexpr std::uint32_t GID_PRESSANDTAP = 7;
-constexpr std::uint32_t GF_BEGIN = 1, GF_INERTIA = 2, GF_END = 4;
 
 void* const Window = reinterpret_cast<void*>(0x1000);
 void* const Handle = reinterpret_cast<void*>(0x2000);

@@ -14,15 +14,11 @@
 
 using namespace Ostrel::App;
 using Ostrel::Test::FakePlatformApi;
+using namespace Ostrel::Test::WindowSystem;
 using Info = Gesture::IPlatformApi::Info;
 using Message = Gesture::IPlatformApi::Message;
 
 namespace {
-
-constexpr std::uint32_t WM_GESTURE = 0x119;
-constexpr std::uint32_t WM_GESTURENOTIFY = 0x11A;
-constexpr std::uint32_t GID_ZOOM = 3;
-constexpr std::uint32_t GID_PAN = 4;
 
 void* const TopWindow = reinterpret_cast<void*>(0x1000);
 void* const ChildWindow = reinterpret_cast<void*>(0x1001);

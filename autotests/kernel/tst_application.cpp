@@ -16,6 +16,7 @@
 #include "FakeCustomization.h"
 #include "LogCapture.h"
 #include "MemorySettings.h"
+#include "NoQuitLifetime.h"
 #include "TestEnvironment.h"
 
 #include <QAction>
@@ -26,6 +27,7 @@
 
 using namespace Ostrel;
 using namespace Ostrel::App;
+using Ostrel::Test::app;
 
 namespace {
 
@@ -52,12 +54,6 @@ public:
     int dismissals = 0;
 };
 
-class NoQuitLifetime : public LifetimeManager
-{
-protected:
-    void quitImpl() override {}
-};
-
 class Links : public ILinksManager
 {
 public:
@@ -74,11 +70,6 @@ public:
     void onSet() override { ++calls; }
     int calls = 0;
 };
-
-Application& app()
-{
-    return *static_cast<Application*>(QCoreApplication::instance());
-}
 
 } // namespace
 
@@ -325,11 +316,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    Test::initTestEnvironment(argv[0]);
-    auto lifetime = std::make_shared<NoQuitLifetime>();
-    Application application(argc, argv, lifetime, Application::DISABLE_APP_MUTEX);
-    ApplicationTest test(lifetime);
-    return Test::exec(&test, argc, argv);
+    return Test::execInApplication<ApplicationTest>(argc, argv);
 }
 
 #include "tst_application.moc"

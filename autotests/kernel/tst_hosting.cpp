@@ -15,6 +15,7 @@
 #include "FakeLookAndFeel.h"
 #include "LogCapture.h"
 #include "MemorySettings.h"
+#include "NoQuitLifetime.h"
 #include "TestEnvironment.h"
 
 #include <algorithm>
@@ -24,19 +25,9 @@
 
 using namespace Ostrel;
 using namespace Ostrel::App;
+using Ostrel::Test::app;
 
 namespace {
-
-class NoQuitLifetime : public LifetimeManager
-{
-protected:
-    void quitImpl() override {}
-};
-
-Application& app()
-{
-    return *static_cast<Application*>(QCoreApplication::instance());
-}
 
 // One component a product sets: `set(true)` puts a fresh one into the context, `set(false)` a null.
 struct Component
@@ -180,11 +171,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    Test::initTestEnvironment(argv[0]);
-    auto lifetime = std::make_shared<NoQuitLifetime>();
-    Application application(argc, argv, lifetime, Application::DISABLE_APP_MUTEX);
-    HostingTest test(lifetime);
-    return Test::exec(&test, argc, argv);
+    return Test::execInApplication<HostingTest>(argc, argv);
 }
 
 #include "tst_hosting.moc"

@@ -9,6 +9,7 @@
 #include "FakeLookAndFeel.h"
 #include "MemorySettings.h"
 #include "TestEnvironment.h"
+#include "TestFiles.h"
 
 #include <QDesktopServices>
 #include <QTemporaryDir>
@@ -28,12 +29,6 @@ QString command(const QString& root, const QString& id)
 {
     return SystemBrowserSources().defaultValue(root + QLatin1Char('\\') + id +
                                                QStringLiteral("\\shell\\open\\command"));
-}
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -141,8 +136,8 @@ private Q_SLOTS:
             QCOMPARE(QString::fromStdString(product->GetString("PreferredBrowser", "")), browser.Path());
 
             QVERIFY(QDesktopServices::openUrl(QUrl(QStringLiteral("https://example.test/page?a=1"))));
-            QTRY_VERIFY_WITH_TIMEOUT(contents(record).contains("--end--"), 10000);
-            QCOMPARE(contents(record), QByteArray("https://example.test/page?a=1\n--end--\n"));
+            QTRY_VERIFY_WITH_TIMEOUT(Test::readFile(record).contains("--end--"), 10000);
+            QCOMPARE(Test::readFile(record), QByteArray("https://example.test/page?a=1\n--end--\n"));
         }
     }
 };

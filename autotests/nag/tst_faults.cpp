@@ -2,11 +2,11 @@
 // content ends Failed, and no dialog stays up for it. Qt's own QML error lines are expected here.
 
 #include "App/Application/NagScreen/DialogStrategy.h"
-#include "Nag/IWebNagUrlGenerator.h"
 #include "Nag/NagManager.h"
 #include "Nag/QuickContent.h"
 #include "Nag/WebQuickContent.h"
 
+#include "FixedUrlGenerator.h"
 #include "LogCapture.h"
 #include "RecordingHttpServer.h"
 #include "TestEnvironment.h"
@@ -20,20 +20,10 @@ using namespace Ostrel::Test;
 
 namespace {
 
-class FixedGenerator : public IWebNagUrlGenerator
-{
-public:
-    QUrl url;
-    QUrl Generate(const QString&, const QString&, const QString&) override { return url; }
-    QUrl Generate(const NagContext&) override { return url; }
-};
-
 ContentEnvironment environment(const QUrl& url, int timeoutMs)
 {
     ContentEnvironment env;
-    auto generator = std::make_shared<FixedGenerator>();
-    generator->url = url;
-    env.urlGenerator = generator;
+    env.urlGenerator = std::make_shared<FixedUrlGenerator>(url);
     env.webTimeoutMs = timeoutMs;
     // The local nag server is the product's, over plain http.
     env.access.hosts = QStringList{QStringLiteral("127.0.0.1")};

@@ -6,6 +6,7 @@
 #include "Ipc/LocalSocketProtocol.h"
 
 #include "LogCapture.h"
+#include "ScopedEnvironmentVariable.h"
 #include "TestEnvironment.h"
 
 #include <QDir>
@@ -201,9 +202,9 @@ private Q_SLOTS:
         QFETCH(QString, kind);
         QTemporaryDir temp;
         const QString folder = temp.filePath(QStringLiteral("run"));
-        const QByteArray saved = qgetenv("XDG_RUNTIME_DIR");
+        Ostrel::Test::ScopedEnvironmentVariable runtimeDir("XDG_RUNTIME_DIR");
         if (kind == QLatin1String("unset")) {
-            qunsetenv("XDG_RUNTIME_DIR");
+            runtimeDir.unset();
         } else {
             if (kind == QLatin1String("file")) {
                 QFile file(folder);
@@ -219,14 +220,13 @@ private Q_SLOTS:
                                                   QFile::ReadOther | QFile::ExeOther | QFile::ReadGroup |
                                                   QFile::ExeGroup);
             }
-            qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder));
+            runtimeDir.set(QFile::encodeName(folder));
         }
         Ostrel::Test::LogCapture log;
         const QString product = uniqueProduct("folder");
         LocalSocketProtocol server(product);
         const bool listened = server.Listen();
         const bool sent = LocalSocketProtocol::SendOpenNag(product, QStringLiteral("x"), 200);
-        qputenv("XDG_RUNTIME_DIR", saved);
         QVERIFY(!listened);
         QVERIFY(!sent);
         QVERIFY(server.ServerName().isEmpty());

@@ -8,7 +8,6 @@
 #include "App/Application/NagScreen/ProductNagHosts.h"
 #include "Core/LinksManager.h"
 #include "Interfaces/ILinksOpener.h"
-#include "Nag/IWebNagUrlGenerator.h"
 #include "Nag/QuickContent.h"
 #include "Nag/WebQuickContent.h"
 #include "QtUtil/Utf8.h"
@@ -17,6 +16,7 @@
 #include "FakeHardware.h"
 #include "FakeLaunchType.h"
 #include "FakeLookAndFeel.h"
+#include "FixedUrlGenerator.h"
 #include "LogCapture.h"
 #include "MemorySettings.h"
 #include "RecordingHttpServer.h"
@@ -43,15 +43,6 @@ void serveNag(RecordingHttpServer& server, const QByteArray& nag)
     server.setReplyFor("/data", RecordingHttpServer::response(200, "allowed-body"));
     server.setReplyFor("/secret", RecordingHttpServer::response(200, "SECRET"));
 }
-
-class FixedGenerator : public IWebNagUrlGenerator
-{
-public:
-    explicit FixedGenerator(QUrl fixed) : url(std::move(fixed)) {}
-    QUrl url;
-    QUrl Generate(const QString&, const QString&, const QString&) override { return url; }
-    QUrl Generate(const NagContext&) override { return url; }
-};
 
 // A nag that runs `script` once it is complete and shows what came of it in "result".
 QByteArray probingNag(const QString& script)
@@ -204,7 +195,7 @@ private Q_SLOTS:
 
         ContentEnvironment environment;
         environment.urlGenerator =
-            std::make_shared<FixedGenerator>(QUrl(server.base() + QStringLiteral("/nag/main.qml")));
+            std::make_shared<FixedUrlGenerator>(QUrl(server.base() + QStringLiteral("/nag/main.qml")));
         environment.access.hosts = QStringList{QStringLiteral("127.0.0.1")};
         environment.access.allowHttp = true;
         WebQuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")}, QUrl(),
@@ -233,7 +224,7 @@ private Q_SLOTS:
         serveNag(server, probingNag(QString()));
         const QString address = server.base() + QStringLiteral("/nag/main.qml");
         ContentEnvironment environment;
-        environment.urlGenerator = std::make_shared<FixedGenerator>(QUrl(address));
+        environment.urlGenerator = std::make_shared<FixedUrlGenerator>(QUrl(address));
         WebQuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")}, QUrl(),
                                 environment);
         LogCapture log;

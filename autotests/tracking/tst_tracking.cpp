@@ -1,8 +1,6 @@
 #include "Foundation/PersonalDataMask.h"
 #include "LogCapture.h"
-#include "RecordingTracker.h"
 #include "TestEnvironment.h"
-#include "Tracking/ApplicationTrackerFactory.h"
 #include "Tracking/GeneralOstrelTracker.h"
 
 #include <QDateTime>
@@ -14,7 +12,6 @@
 
 #include <thread>
 
-using Ostrel::Tracking::ApplicationTrackerFactory;
 using Ostrel::Tracking::GeneralOstrelTracker;
 
 namespace {
@@ -217,18 +214,6 @@ private slots:
         Ostrel::Core::PersonalDataMask::rememberPersonalValue(QStringLiteral("Jane Roe"));
         QCOMPARE(Ostrel::Core::PersonalDataMask::mask(text), expected);
         Ostrel::Core::PersonalDataMask::forgetPersonalValues();
-    }
-
-    void factoryHoldsWhatWasInstalled()
-    {
-        QVERIFY(!ApplicationTrackerFactory::getApplicationTracker());
-        auto recorder = std::make_shared<Ostrel::Test::RecordingTracker>();
-        ApplicationTrackerFactory::setApplicationTracker(recorder);
-        QCOMPARE(ApplicationTrackerFactory::getApplicationTracker().get(), recorder.get());
-        ApplicationTrackerFactory::getApplicationTracker()->sendEvent("seen", {{"k", "v"}});
-        QCOMPARE(recorder->names(), std::vector<std::string>{"seen"});
-        ApplicationTrackerFactory::setApplicationTracker(nullptr);
-        QVERIFY(!ApplicationTrackerFactory::getApplicationTracker());
     }
 };
 
