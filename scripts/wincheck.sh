@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# The Windows check: every *_win.cpp of the tree named in its CMake list and compiled with -fsyntax-only by Debian's
-# MinGW-w64 cross compiler, against the Windows headers it carries, Debian's Qt 5 headers and
-# glog's headers. Only the platform files are compiled: the rest is the same code the Linux build
-# compiles. The export headers come from a configured build folder (BUILD_DIR, default build/;
-# configured here when it is not). Exits non-zero when any file does not compile.
+# The Windows check: every *_win.cpp of the tree named in its CMake list, and compiled with
+# -fsyntax-only by Debian's MinGW-w64 cross compiler, against the Windows headers it carries,
+# Debian's Qt 5 headers and glog's headers. Only the platform files are compiled: the rest is the
+# same code the Linux build compiles. The export headers come from a configured build folder
+# (BUILD_DIR, default build/; configured here when it is not). Exits non-zero when any file is
+# not listed or does not compile.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${BUILD_DIR:-$root/build}
