@@ -1,25 +1,34 @@
-# ostrel_add_library(<name> [HEADER_ONLY] FOLDER <dir under src> SOURCES ... HEADERS ... LIBS ...
+# ostrel_add_library(<name> [HEADER_ONLY] FOLDER <dir under src> ALIAS <Name>
+#                    SOURCES ... [PUBLIC_LIBS ...] [PRIVATE_LIBS ...]
 #                    [HEADER_BASE <dir the headers' install paths are relative to>])
 #
 # One library of the project: shared (hidden visibility, a generated export header
 # <FOLDER>/<name>_export.h with the macro OSTREL_<NAME>_EXPORT) or header-only, with the
 # alias Ostrel::<Name>, and install rules for the Ostrel CMake package. Every target sees
 # headers from src/, so that includes read "Folder/Header.h" everywhere.
+#
+# SOURCES lists every file of the library, one class a line (Foo.cpp Foo.h Foo_p.h); its headers
+# are installed except the private ones (*_p.h, and the Win32 cores' *_win.h). PUBLIC_LIBS are what
+# an installed header includes, so a product links them too; everything else is PRIVATE_LIBS.
+# A header-only library has only PUBLIC_LIBS.
 function(ostrel_add_library name)
-    cmake_parse_arguments(ARG "HEADER_ONLY" "FOLDER;ALIAS;HEADER_BASE" "SOURCES;HEADERS;LIBS;PRIVATE_LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "HEADER_ONLY" "FOLDER;ALIAS;HEADER_BASE" "SOURCES;PUBLIC_LIBS;PRIVATE_LIBS" ${ARGN})
     if(NOT ARG_HEADER_BASE)
         set(ARG_HEADER_BASE ${CMAKE_CURRENT_SOURCE_DIR})
     endif()
+    set(headers ${ARG_SOURCES})
+    list(FILTER headers INCLUDE REGEX "\\.h$")
+    list(FILTER headers EXCLUDE REGEX "_(p|win)\\.h$")
     set(target ostrel_${name})
     if(ARG_HEADER_ONLY)
         add_library(${target} INTERFACE)
         target_include_directories(${target} INTERFACE
             $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
             $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/ostrel>)
-        target_link_libraries(${target} INTERFACE ${ARG_LIBS})
+        target_link_libraries(${target} INTERFACE ${ARG_PUBLIC_LIBS})
         target_compile_features(${target} INTERFACE cxx_std_17)
     else()
-        add_library(${target} SHARED ${ARG_SOURCES} ${ARG_HEADERS})
+        add_library(${target} SHARED ${ARG_SOURCES})
         string(TOUPPER ${name} upper)
         generate_export_header(${target}
             BASE_NAME OSTREL_${upper}
@@ -28,7 +37,7 @@ function(ostrel_add_library name)
             $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
             $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
             $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/ostrel>)
-        target_link_libraries(${target} PUBLIC ${ARG_LIBS} PRIVATE ${ARG_PRIVATE_LIBS})
+        target_link_libraries(${target} PUBLIC ${ARG_PUBLIC_LIBS} PRIVATE ${ARG_PRIVATE_LIBS})
         set_target_properties(${target} PROPERTIES
             OUTPUT_NAME Ostrel${ARG_ALIAS}
             VERSION ${PROJECT_VERSION}
@@ -44,7 +53,7 @@ function(ostrel_add_library name)
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
     # Installed below include/ostrel/<FOLDER>, keeping their path relative to HEADER_BASE.
-    foreach(header ${ARG_HEADERS})
+    foreach(header ${headers})
         get_filename_component(absolute ${header} ABSOLUTE)
         file(RELATIVE_PATH relative ${ARG_HEADER_BASE} ${absolute})
         get_filename_component(dir ${relative} DIRECTORY)
