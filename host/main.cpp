@@ -23,10 +23,10 @@
 #include "Core/UserSettingsManager.h"
 #include "Foundation/AppendFile.h"
 #include "Foundation/UserOnlyFiles.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/LifetimeObserver.h"
 #include "Ipc/LocalSocketProtocol.h"
 #include "QtUtil/QtMessageRouting.h"
-#include "QtUtil/Utf8.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 #include "Tracking/GeneralOstrelTracker.h"
 

@@ -7,11 +7,11 @@
 #include "App/Application/NagScreen/NagLinksOpener.h"
 #include "App/Application/NagScreen/ProductNagHosts.h"
 #include "Core/LinksManager.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ILinksOpener.h"
 #include "Nag/IWebNagUrlGenerator.h"
 #include "Nag/QuickContent.h"
 #include "Nag/WebQuickContent.h"
-#include "QtUtil/Utf8.h"
 
 #include "FakeCustomization.h"
 #include "FakeHardware.h"

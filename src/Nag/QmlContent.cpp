@@ -1,12 +1,12 @@
 #include "Nag/QmlContent.h"
 
 #include "Foundation/PersonalDataMask.h"
+#include "Foundation/Utf8.h"
 #include "Nag/DifferenceHash.h"
 #include "Nag/IActionStrategy.h"
 #include "Nag/NagCallback_p.h"
 #include "Nag/NagEngineAccess_p.h"
 #include "Nag/NagFonts.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

@@ -12,6 +12,7 @@
 #include "Events/NotNull.h"
 #include "Foundation/AppMutexLocker.h"
 #include "Foundation/CrashRecord.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IGateway.h"
 #include "Interfaces/IHardwareInfo.h"
@@ -28,7 +29,6 @@
 #include "Nag/IManager.h"
 #include "QtUtil/ApplicationVisibleVersion.h"
 #include "QtUtil/HardwareInfoReport.h"
-#include "QtUtil/Utf8.h"
 
 #include <boost/core/demangle.hpp>
 #include <boost/exception/diagnostic_information.hpp>

@@ -5,6 +5,7 @@
 #include "App/Application/RequiredComponent.h"
 #include "Events/NotNull.h"
 #include "Foundation/PersonalDataMask.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ILinksManager.h"
 #include "Interfaces/ILookAndFeelManager.h"
 #include "Nag/AbstractContent.h"
@@ -12,7 +13,6 @@
 #include "Nag/IManager.h"
 #include "Nag/INagLinksOpener.h"
 #include "Nag/IShowStrategy.h"
-#include "QtUtil/Utf8.h"
 #include "Tracking/IApplicationTracker.h"
 
 #include <boost/optional.hpp>
@@ -32,11 +32,6 @@ namespace {
 
 using Params = std::map<std::string, std::string>;
 
-std::string utf8(const QString& text)
-{
-    return Util::QStringToUtf8(text);
-}
-
 // The parameters a nag passed from QML, under upper-case keys; values that aren't text are left out.
 void ReadParams(Params& map, const QVariant& variant)
 {
@@ -47,7 +42,7 @@ void ReadParams(Params& map, const QVariant& variant)
     const QVariantMap values = variant.toMap();
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
         if (it.value().canConvert<QString>())
-            map[utf8(it.key().toUpper())] = utf8(it.value().toString());
+            map[Util::QStringToUtf8(it.key().toUpper())] = Util::QStringToUtf8(it.value().toString());
     }
 }
 
@@ -61,10 +56,10 @@ void ReadLink(Params& map, const QString& urlText, const QString& fallbackId)
     const QUrl url(urlText, QUrl::TolerantMode);
     const QUrlQuery query(url);
     // A nag link may carry the user's name or address; tracking gets it masked.
-    map["NAG_LINK_URL"] = utf8(Core::PersonalDataMask::mask(url.toDisplayString()));
-    map["NAG_LINK_ID"] = utf8(query.hasQueryItem(QStringLiteral("link_id")) ? query.queryItemValue(QStringLiteral("link_id"))
+    map["NAG_LINK_URL"] = Util::QStringToUtf8(Core::PersonalDataMask::mask(url.toDisplayString()));
+    map["NAG_LINK_ID"] = Util::QStringToUtf8(query.hasQueryItem(QStringLiteral("link_id")) ? query.queryItemValue(QStringLiteral("link_id"))
                                                                             : fallbackId);
-    map["NAG_ASRC"] = query.hasQueryItem(QStringLiteral("asrc")) ? utf8(query.queryItemValue(QStringLiteral("asrc")))
+    map["NAG_ASRC"] = query.hasQueryItem(QStringLiteral("asrc")) ? Util::QStringToUtf8(query.queryItemValue(QStringLiteral("asrc")))
                                                                  : std::string("UNDEFINED");
 }
 
@@ -100,11 +95,11 @@ bool isBinary(const QString& hash)
 
 void AppendHashParams(Params& map, const IManager::NagHash& hash)
 {
-    map["NAG_HASH_NAME"] = utf8(hash.hashName);
+    map["NAG_HASH_NAME"] = Util::QStringToUtf8(hash.hashName);
     map["NAG_HASH_WIDTH"] = std::to_string(hash.hashSize.width());
     map["NAG_HASH_HEIGHT"] = std::to_string(hash.hashSize.height());
-    map["NAG_INTERNAL_HASH"] = utf8(hash.internalHash);
-    map["NAG_COMPUTED_HASH"] = utf8(hash.computedHash);
+    map["NAG_INTERNAL_HASH"] = Util::QStringToUtf8(hash.internalHash);
+    map["NAG_COMPUTED_HASH"] = Util::QStringToUtf8(hash.computedHash);
     const QString& internal = hash.internalHash;
     const QString& computed = hash.computedHash;
     if (internal.isEmpty() || computed.isEmpty())
@@ -128,13 +123,13 @@ void AppendHashParams(Params& map, const IManager::NagHash& hash)
     const int match = length - distance;
     map["NAG_HASH_MATCH"] = std::to_string(match) + "/" + std::to_string(length);
     // asprintf formats like "%f" in the C locale, whatever the user's locale.
-    map["NAG_HASH_MATCH_PERCENT"] = utf8(QString::asprintf("%f", match * 100.0 / length));
+    map["NAG_HASH_MATCH_PERCENT"] = Util::QStringToUtf8(QString::asprintf("%f", match * 100.0 / length));
 }
 
 std::string screenScale()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return utf8(QString::number(screen ? screen->devicePixelRatio() : 1.0, 'f', 2));
+    return Util::QStringToUtf8(QString::number(screen ? screen->devicePixelRatio() : 1.0, 'f', 2));
 }
 
 // The operation in progress names the links clicked during it; restored on every way out.
@@ -197,7 +192,7 @@ public:
             Params params;
             appendContentParams(params, content);
             ReadLink(params, content.SourceUrl().toString(), m_currentOperation);
-            params["NAG_LOCALE"] = utf8(nagLocale(content));
+            params["NAG_LOCALE"] = Util::QStringToUtf8(nagLocale(content));
             send("NAG_SHOW", params);
             if (const auto manager = m_top.get<IManager>()) {
                 if (m_hashSetter)
@@ -250,7 +245,7 @@ public:
         if (m_tracker) {
             Params params;
             ReadParams(params, value);
-            params["BUTTON_ID"] = utf8(buttonId);
+            params["BUTTON_ID"] = Util::QStringToUtf8(buttonId);
             appendContentParams(params, content);
             send("NAG_BUTTON_CLICK", params);
         }
@@ -285,7 +280,7 @@ public:
             if (action != QLatin1String("collectEmail") && action != QLatin1String("sendNPSInfo"))
                 ReadParams(params, value);
             appendContentParams(params, content);
-            params["NAG_CUSTOM_ACTION"] = utf8(action);
+            params["NAG_CUSTOM_ACTION"] = Util::QStringToUtf8(action);
             send("CUSTOM_ACTION_PERFORMED", params);
         }
         const OperationScope operation(m_currentOperation, QStringLiteral("PerformCustomAction"));
