@@ -22,6 +22,7 @@
 #include <QScreen>
 #include <QUrlQuery>
 
+#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -46,21 +47,18 @@ void ReadParams(Params& map, const QVariant& variant)
     }
 }
 
-void ReadParams(Params& map, const QMap<QString, QVariant>& params)
-{
-    ReadParams(map, QVariant(params));
-}
-
 void ReadLink(Params& map, const QString& urlText, const QString& fallbackId)
 {
     const QUrl url(urlText, QUrl::TolerantMode);
     const QUrlQuery query(url);
     // A nag link may carry the user's name or address; tracking gets it masked.
     map["NAG_LINK_URL"] = Util::QStringToUtf8(Core::PersonalDataMask::mask(url.toDisplayString()));
-    map["NAG_LINK_ID"] = Util::QStringToUtf8(query.hasQueryItem(QStringLiteral("link_id")) ? query.queryItemValue(QStringLiteral("link_id"))
-                                                                            : fallbackId);
-    map["NAG_ASRC"] = query.hasQueryItem(QStringLiteral("asrc")) ? Util::QStringToUtf8(query.queryItemValue(QStringLiteral("asrc")))
-                                                                 : std::string("UNDEFINED");
+    map["NAG_LINK_ID"] = Util::QStringToUtf8(query.hasQueryItem(QStringLiteral("link_id"))
+                                                 ? query.queryItemValue(QStringLiteral("link_id"))
+                                                 : fallbackId);
+    map["NAG_ASRC"] = query.hasQueryItem(QStringLiteral("asrc"))
+                          ? Util::QStringToUtf8(query.queryItemValue(QStringLiteral("asrc")))
+                          : std::string("UNDEFINED");
 }
 
 QString withoutQuery(const QUrl& url)
@@ -242,13 +240,8 @@ public:
 
     void PerformButtonAction(const AbstractContent& content, const QString& buttonId, const QVariant& value) override
     {
-        if (m_tracker) {
-            Params params;
-            ReadParams(params, value);
-            params["BUTTON_ID"] = Util::QStringToUtf8(buttonId);
-            appendContentParams(params, content);
-            send("NAG_BUTTON_CLICK", params);
-        }
+        track("NAG_BUTTON_CLICK", content, &value,
+              [&](Params& event) { event["BUTTON_ID"] = Util::QStringToUtf8(buttonId); });
         const OperationScope operation(m_currentOperation, QStringLiteral("PerformButtonAction"));
         m_actions->PerformButtonAction(content, buttonId, value);
     }
@@ -261,40 +254,28 @@ public:
 
     void NagClose(const AbstractContent& content, int code, const QMap<QString, QVariant>& params) override
     {
-        if (m_tracker) {
-            Params event;
-            ReadParams(event, params);
-            appendContentParams(event, content);
-            event["NAG_EXIT"] = std::to_string(code);
-            send("NAG_CLOSE", event);
-        }
+        const QVariant values(params);
+        track("NAG_CLOSE", content, &values,
+              [&](Params& event) { event["NAG_EXIT"] = std::to_string(code); });
         const OperationScope operation(m_currentOperation, QStringLiteral("NagClose"));
         m_actions->NagClose(content, code, params);
     }
 
     void PerformCustomAction(const AbstractContent& content, const QString& action, const QVariant& value) override
     {
-        if (m_tracker) {
-            Params params;
-            // An address or a survey answer is the user's own: it never goes to the tracker.
-            if (action != QLatin1String("collectEmail") && action != QLatin1String("sendNPSInfo"))
-                ReadParams(params, value);
-            appendContentParams(params, content);
-            params["NAG_CUSTOM_ACTION"] = Util::QStringToUtf8(action);
-            send("CUSTOM_ACTION_PERFORMED", params);
-        }
+        // An address or a survey answer is the user's own: it never goes to the tracker.
+        const bool personal =
+            action == QLatin1String("collectEmail") || action == QLatin1String("sendNPSInfo");
+        track("CUSTOM_ACTION_PERFORMED", content, personal ? nullptr : &value,
+              [&](Params& event) { event["NAG_CUSTOM_ACTION"] = Util::QStringToUtf8(action); });
         const OperationScope operation(m_currentOperation, QStringLiteral("PerformCustomAction"));
         m_actions->PerformCustomAction(content, action, value);
     }
 
     void ScreenShown(const AbstractContent& content, const QMap<QString, QVariant>& params) override
     {
-        if (m_tracker) {
-            Params event;
-            ReadParams(event, params);
-            appendContentParams(event, content);
-            send("NAG_SCREEN_SHOW", event);
-        }
+        const QVariant values(params);
+        track("NAG_SCREEN_SHOW", content, &values);
         const OperationScope operation(m_currentOperation, QStringLiteral("ScreenShown"));
         m_actions->ScreenShown(content, params);
     }
@@ -302,28 +283,22 @@ public:
     // INagLinksOpener
     void OpenUrl(const AbstractContent& content, const QString& url, const QMap<QString, QVariant>& params) override
     {
-        if (m_tracker) {
-            Params event;
-            ReadParams(event, params);
-            appendContentParams(event, content);
+        const QVariant values(params);
+        track("NAG_LINK_CLICK", content, &values, [&](Params& event) {
             FindLinkKey(event, url);
             ReadLink(event, url, m_currentOperation);
-            send("NAG_LINK_CLICK", event);
-        }
+        });
         m_opener->OpenUrl(content, url, params);
     }
 
     void OpenUrl(const AbstractContent& content, URLKeys key, const QMap<QString, QVariant>& params) override
     {
-        if (m_tracker) {
-            Params event;
-            ReadParams(event, params);
-            appendContentParams(event, content);
+        const QVariant values(params);
+        track("NAG_LINK_CLICK", content, &values, [&](Params& event) {
             const auto name = UrlKeyNames().find(key);
             event["NAG_LINK_URL_KEY"] = name != UrlKeyNames().end() ? name->second : std::to_string(static_cast<int>(key));
             ReadLink(event, m_links->GetUrl(key), m_currentOperation);
-            send("NAG_LINK_CLICK", event);
-        }
+        });
         m_opener->OpenUrl(content, key, params);
     }
 
@@ -355,6 +330,22 @@ private:
     }
 
     void send(const std::string& name, const Params& params) { m_tracker->sendEvent(name, params); }
+
+    // One event of a nag's own: the values it passed (none when null) beneath the content's fields,
+    // then the fields of this event.
+    void track(const std::string& name, const AbstractContent& content, const QVariant* values,
+               const std::function<void(Params&)>& fields = {})
+    {
+        if (!m_tracker)
+            return;
+        Params event;
+        if (values)
+            ReadParams(event, *values);
+        appendContentParams(event, content);
+        if (fields)
+            fields(event);
+        send(name, event);
+    }
 
     const ITopManager& m_top;
     std::shared_ptr<Tracking::IApplicationTracker> m_tracker;
