@@ -33,6 +33,7 @@ const char* productAppName()
     return "home-capture-desk";
 }
 
+// Stays beside requiredComponent: that one only logs, while an address without the component is wrong.
 template <class T>
 std::shared_ptr<T> required(const ITopManager& top, const char* what)
 {
