@@ -115,7 +115,7 @@ QNetworkAccessManager& HttpClient::accessManager()
 
 void HttpClient::send(const HttpRequest& request, Callback done)
 {
-    const QUrl url(QString::fromStdString(request.url), QUrl::StrictMode);
+    const QUrl url(Util::Utf8ToQString(request.url), QUrl::StrictMode);
     const QString scheme = url.scheme();
     if (!url.isValid() || (scheme != QLatin1String("http") && scheme != QLatin1String("https"))) {
         const std::string error = "invalid URL \"" + request.url + "\"";
