@@ -31,11 +31,11 @@
 #include "Interfaces/ILookAndFeelManager.h"
 #include "Interfaces/IMailSettingsManager.h"
 #include "Interfaces/IMessageBroker.h"
-#include "Interfaces/INagManager.h"
 #include "Interfaces/IPartnerTracking.h"
 #include "Interfaces/IProductSettingsManager.h"
 #include "Interfaces/IUserSettingsManager.h"
 #include "Ipc/IPCBaseProtocol.h"
+#include "Nag/IManager.h"
 #include "Tracking/GeneralOstrelTracker.h"
 
 #include "CpuClock.h"

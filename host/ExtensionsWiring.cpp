@@ -8,12 +8,12 @@
 #include "App/Application/Extensions/ModalFreeGateway.h"
 #include "App/Application/Extensions/Tyfi/Tyfi.h"
 #include "Foundation/PersonalDataMask.h"
+#include "Foundation/Utf8.h"
 #include "Http/HttpClient.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/ILaunchTypeProcessor.h"
 #include "Interfaces/ILifetimeManager.h"
 #include "Interfaces/ILinksManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

@@ -1,6 +1,7 @@
 #include "LinksPanel.h"
 
 #include "App/Application/Gesture/Scroller.h"
+#include "Foundation/Utf8.h"
 
 using namespace Ostrel::App;
 
@@ -14,7 +15,7 @@ LinksPanel::LinksPanel(const Opener& open, QWidget* parent) : QListWidget(parent
     // One line of text each: the view measures one item instead of every one of them.
     setUniformItemSizes(true);
     for (const auto& [key, name] : UrlKeyNames()) {
-        auto* item = new QListWidgetItem(QString::fromStdString(name), this);
+        auto* item = new QListWidgetItem(Ostrel::Util::Utf8ToQString(name), this);
         item->setData(Qt::UserRole, static_cast<int>(key));
     }
     connect(this, &QListWidget::itemActivated, this, [open](QListWidgetItem* item) {

@@ -5,10 +5,10 @@
 #include "App/Application/ColorDialogHelper.h"
 #include "App/Application/LookAndFeelHandler.h"
 #include "App/Application/LookAndFeelManager.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/IApplicationSettingsManager.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/ILifetimeManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

@@ -13,6 +13,7 @@
 #include "App/Application/NagScreen/ProductNagHosts.h"
 #include "App/Application/NagScreen/WebNagUrlGenerator.h"
 #include "Core/ProductSettingsManager.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/IHttpClient.h"
 #include "Interfaces/IInternetConnectionChecker.h"
 #include "Interfaces/ILinksManager.h"
@@ -23,7 +24,6 @@
 #include "Nag/NagContext.h"
 #include "Nag/NagManager.h"
 #include "QtUtil/UrlProtocol.h"
-#include "QtUtil/Utf8.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
 #include <glog/logging.h>

@@ -4,9 +4,9 @@
 #include "App/Application/Testing/ConnectionTest.h"
 #include "App/Application/Testing/Testing.h"
 #include "App/Application/Testing/UrlTest.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IInternetConnectionChecker.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

@@ -23,10 +23,10 @@
 #include "Core/UserSettingsManager.h"
 #include "Foundation/AppendFile.h"
 #include "Foundation/UserOnlyFiles.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/LifetimeObserver.h"
 #include "Ipc/LocalSocketProtocol.h"
 #include "QtUtil/QtMessageRouting.h"
-#include "QtUtil/Utf8.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 #include "Tracking/GeneralOstrelTracker.h"
 
@@ -70,9 +70,10 @@ private:
 // also reach standard error. Until this runs, everything goes to standard error.
 QString startLogFile(const CustomizationManager& customization)
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1Char('/') +
-                           QString::fromStdString(customization.GetOrganizationName()) + QLatin1Char('/') +
-                           QString::fromStdString(customization.GetApplicationName()) + QStringLiteral("/logs");
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                           QLatin1Char('/') + Util::Utf8ToQString(customization.GetOrganizationName()) +
+                           QLatin1Char('/') + Util::Utf8ToQString(customization.GetApplicationName()) +
+                           QStringLiteral("/logs");
     if (!Core::UserOnlyFiles::makeFolder(folder)) {
         LOG(WARNING) << "Cannot create the log folder " << Util::QStringToUtf8(folder) << ", logging to standard error";
         FLAGS_logtostderr = true;
@@ -177,14 +178,15 @@ int main(int argc, char** argv)
     const auto customization =
         std::make_shared<CustomizationManager>(QString(), QStringLiteral(":/host/CaptureDeskCustom.ini"));
     const QString logFile = startLogFile(*customization);
-    const QString product = QString::fromStdString(customization->GetOrganizationName() + "/" +
-                                                   customization->GetApplicationName());
+    const QString product =
+        Util::Utf8ToQString(customization->GetOrganizationName() + "/" + customization->GetApplicationName());
     const auto protocol = std::make_shared<LocalSocketProtocol>(product);
     if (NagWiring::handOffToRunningInstance(parser, *protocol, product))
         return 0;
     stage("log and hand-off");
 
-    const auto splash = std::make_shared<HostSplash>(QString::fromStdString(customization->GetPresentableName()));
+    const auto splash =
+        std::make_shared<HostSplash>(Util::Utf8ToQString(customization->GetPresentableName()));
     splash->show();
     app.SetSplash(splash);
     stage("splash");

@@ -3,6 +3,7 @@
 // Stand-ins for the nag library and the links, for the tests of the actions, the tracking
 // decorator and the tester: only what those read is there.
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/ILinksManager.h"
 #include "Nag/AbstractContent.h"
 #include "Nag/ContentParams.h"
@@ -10,7 +11,6 @@
 #include "Nag/IManagerObserver.h"
 #include "Nag/INagLinksOpener.h"
 #include "Nag/IShowStrategy.h"
-#include "QtUtil/Utf8.h"
 
 #include <QPixmap>
 

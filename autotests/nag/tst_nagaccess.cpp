@@ -7,10 +7,10 @@
 #include "App/Application/NagScreen/NagLinksOpener.h"
 #include "App/Application/NagScreen/ProductNagHosts.h"
 #include "Core/LinksManager.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ILinksOpener.h"
 #include "Nag/QuickContent.h"
 #include "Nag/WebQuickContent.h"
-#include "QtUtil/Utf8.h"
 
 #include "FakeCustomization.h"
 #include "FakeHardware.h"

@@ -8,11 +8,11 @@
 #include "Core/ProductSettingsManager.h"
 #include "Foundation/SHA1.h"
 #include "Foundation/SystemInfo.h"
+#include "Foundation/Utf8.h"
 #include "Nag/AbstractContent.h"
 #include "Nag/IShowStrategy.h"
 #include "Nag/NagManager.h"
 #include "QtUtil/UrlProtocol.h"
-#include "QtUtil/Utf8.h"
 
 #include "FakeCustomization.h"
 #include "FakeHardware.h"

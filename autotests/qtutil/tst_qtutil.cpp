@@ -1,7 +1,7 @@
+#include "Foundation/Utf8.h"
 #include "QtUtil/ApplicationVisibleVersion.h"
 #include "QtUtil/HardwareInfoReport.h"
 #include "QtUtil/SpontaneousDialog.h"
-#include "QtUtil/Utf8.h"
 
 #include "FakeCustomization.h"
 #include "TestEnvironment.h"

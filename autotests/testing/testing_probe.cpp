@@ -19,13 +19,13 @@
 #include "App/Application/Testing/Testing.h"
 #include "App/Application/Testing/UrlTest.h"
 #include "Core/LinksManager.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/IInternetConnectionChecker.h"
 #include "Interfaces/ILinksManager.h"
 #include "Nag/AbstractContent.h"
 #include "Nag/IContentFactory.h"
 #include "Nag/NagManager.h"
 #include "QtUtil/UrlProtocol.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

@@ -1,5 +1,6 @@
 #include "Core/CustomizationManager.h"
 #include "Core/SettingsText_p.h"
+#include "Foundation/Utf8.h"
 
 #include <glog/logging.h>
 
@@ -16,11 +17,6 @@ namespace Ostrel::App {
 namespace {
 
 const char* const CollectEmail = "CollectEmail";
-
-std::string toUtf8(const QString& text)
-{
-    return text.toUtf8().toStdString();
-}
 
 // Keys and their built-in values, in a function so that nothing is built before main().
 const std::map<std::string, std::string>& builtInDefaults()
@@ -53,18 +49,18 @@ public:
         // QSettings reports nothing for a missing file, so look first.
         if (!QFile::exists(path)) {
             // Most installations carry no customization: the defaults are the usual case.
-            LOG(INFO) << "Customization file " << toUtf8(path) << " not found, using defaults";
+            LOG(INFO) << "Customization file " << Util::QStringToUtf8(path) << " not found, using defaults";
             return;
         }
         QSettings file(path, QSettings::IniFormat);
         if (file.status() != QSettings::NoError) {
-            LOG(WARNING) << "Customization file " << toUtf8(path)
+            LOG(WARNING) << "Customization file " << Util::QStringToUtf8(path)
                          << " is unreadable or broken, using defaults";
             return;
         }
         file.beginGroup(QStringLiteral("Customization"));
         for (auto& [key, value] : values) {
-            const QVariant read = file.value(QString::fromUtf8(key.c_str()));
+            const QVariant read = file.value(Util::Utf8ToQString(key));
             if (!read.isValid())
                 continue;
             // An unquoted value with a comma reads as a list; the author meant the whole text.
@@ -72,17 +68,18 @@ public:
                                      ? read.toStringList().join(QStringLiteral(", "))
                                      : read.toString();
             if (key == CollectEmail && !SettingsText::parseBool(text)) {
-                LOG(WARNING) << "Customization value CollectEmail=\"" << toUtf8(text) << "\" in "
-                             << toUtf8(path) << " is not a boolean; keeping " << value;
+                LOG(WARNING) << "Customization value CollectEmail=\"" << Util::QStringToUtf8(text) << "\" in "
+                             << Util::QStringToUtf8(path) << " is not a boolean; keeping " << value;
                 continue;
             }
-            value = toUtf8(text.trimmed());
+            value = Util::QStringToUtf8(text.trimmed());
         }
         file.endGroup();
         for (const char* group : {"Hosts", "Links"}) {
             file.beginGroup(QString::fromLatin1(group));
             for (const QString& key : file.childKeys())
-                customValues[std::string(group) + '/' + toUtf8(key)] = toUtf8(file.value(key).toString().trimmed());
+                customValues[std::string(group) + '/' + Util::QStringToUtf8(key)] =
+                    Util::QStringToUtf8(file.value(key).toString().trimmed());
             file.endGroup();
         }
     }
@@ -101,7 +98,7 @@ CustomizationManager::CustomizationManager(const QString& filePath, const QStrin
         d->applyLayer(embeddedPath);
     d->applyLayer(filePath.isEmpty() ? defaultFilePath() : filePath);
     d->collectEmail =
-        SettingsText::parseBool(QString::fromUtf8(d->value(CollectEmail).c_str())).value_or(false);
+        SettingsText::parseBool(Util::Utf8ToQString(d->value(CollectEmail))).value_or(false);
 }
 
 CustomizationManager::~CustomizationManager() = default;

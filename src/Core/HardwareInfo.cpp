@@ -1,6 +1,7 @@
 #include "Core/HardwareInfo.h"
 
 #include "Core/HardwareInfo_p.h"
+#include "Foundation/Utf8.h"
 
 #include <glog/logging.h>
 
@@ -20,7 +21,7 @@ HardwareInfo::HardwareInfo() : d(std::make_unique<Impl>())
     QString source;
     const QByteArray raw = Platform::readMachineId(&source);
     if (raw.isEmpty()) {
-        LOG(WARNING) << "No machine identifier readable from " << source.toStdString()
+        LOG(WARNING) << "No machine identifier readable from " << Util::QStringToUtf8(source)
                      << "; requests go without one";
         return;
     }

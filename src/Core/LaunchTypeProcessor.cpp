@@ -1,4 +1,5 @@
 #include "Core/LaunchTypeProcessor.h"
+#include "Foundation/Utf8.h"
 
 #include <glog/logging.h>
 
@@ -27,7 +28,8 @@ std::optional<int> launchTypeFromArguments(const QStringList& arguments)
             if (ok && value >= ILaunchTypeProcessor::Regular && value <= ILaunchTypeProcessor::Background) {
                 result = value;
             } else {
-                LOG(WARNING) << "Ignoring unknown launch type argument \"" << argument.toStdString() << '"';
+                LOG(WARNING) << "Ignoring unknown launch type argument \"" << Util::QStringToUtf8(argument)
+                             << '"';
             }
         }
     }

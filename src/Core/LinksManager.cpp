@@ -1,6 +1,7 @@
 #include "Core/LinksManager.h"
 
 #include "Foundation/PersonalDataMask.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IHardwareInfo.h"
 #include "Interfaces/IInstallerSettingsManager.h"
@@ -22,16 +23,6 @@
 namespace Ostrel::App {
 
 namespace {
-
-QString fromUtf8(const std::string& text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
-
-std::string toUtf8(const QString& text)
-{
-    return text.toUtf8().toStdString();
-}
 
 QString encoded(const QString& value)
 {
@@ -71,8 +62,8 @@ public:
     std::shared_ptr<IPartnerTracking> partnerTracking;
     std::shared_ptr<IInstallerSettingsManager> installerSettings;
 
-    QString locale() const { return fromUtf8(lookAndFeel->GetCurrentLocale()); }
-    QString version() const { return fromUtf8(customization->GetVersion()); }
+    QString locale() const { return Util::Utf8ToQString(lookAndFeel->GetCurrentLocale()); }
+    QString version() const { return Util::Utf8ToQString(customization->GetVersion()); }
 
     QString tail() const
     {
@@ -83,18 +74,18 @@ public:
                                                                                 QCryptographicHash::Sha1)
                                                            .toHex());
         QList<QPair<QString, QString>> query = {
-            {QStringLiteral("app"), fromUtf8(customization->GetInternalId())},
+            {QStringLiteral("app"), Util::Utf8ToQString(customization->GetInternalId())},
             {QStringLiteral("version"), version()},
             {QStringLiteral("lang"), locale()},
             {QStringLiteral("partner"),
-             fromUtf8(productSettings->GetString("PartnerName", customization->GetPartnerName()))},
-            {QStringLiteral("brand"), fromUtf8(customization->GetBrand())},
+             Util::Utf8ToQString(productSettings->GetString("PartnerName", customization->GetPartnerName()))},
+            {QStringLiteral("brand"), Util::Utf8ToQString(customization->GetBrand())},
             {QStringLiteral("huid"), huid},
             {QStringLiteral("lt"), QString::number(launchType->GetLaunchType())},
         };
         const std::string webUid = userSettings->GetString("WEBUID", std::string());
         if (!webUid.empty())
-            query.append({QStringLiteral("webuid"), fromUtf8(webUid)});
+            query.append({QStringLiteral("webuid"), Util::Utf8ToQString(webUid)});
         QString result;
         for (const auto& [key, value] : query) {
             if (!result.isEmpty())
@@ -124,9 +115,9 @@ public:
         if (name == QLatin1String("-APP_VERSION-"))
             return encoded(version());
         if (name == QLatin1String("-NAME-"))
-            return personal(fromUtf8(mailSettings->GetString("UserName", std::string())));
+            return personal(Util::Utf8ToQString(mailSettings->GetString("UserName", std::string())));
         if (name == QLatin1String("-EMAIL-"))
-            return personal(fromUtf8(mailSettings->GetString("UserEmail", std::string())));
+            return personal(Util::Utf8ToQString(mailSettings->GetString("UserEmail", std::string())));
         if (name == QLatin1String("-NEWSLETTER_CONFIRMED-"))
             return boolText(mailSettings->GetBool("isConfirmed", false));
         if (name == QLatin1String("-ADDITIONALS_INSTALLED-"))
@@ -142,17 +133,17 @@ public:
         *known = builtIn != templates.end();
         const std::string custom = customization->GetCustomValue("Links/" + keyName);
         if (!custom.empty())
-            return fromUtf8(custom);
+            return Util::Utf8ToQString(custom);
         if (!*known)
             return QString();
-        QString result = fromUtf8(builtIn->second);
+        QString result = Util::Utf8ToQString(builtIn->second);
         for (const auto& [endpoint, defaultHost] : UrlEndpointHosts()) {
-            const QString prefix = QStringLiteral("https://") + fromUtf8(defaultHost);
+            const QString prefix = QStringLiteral("https://") + Util::Utf8ToQString(defaultHost);
             if (!result.startsWith(prefix) || (result.size() > prefix.size() && result.at(prefix.size()) != QLatin1Char('/')))
                 continue;
             const std::string host = customization->GetCustomValue("Hosts/" + endpoint);
             if (!host.empty())
-                result.replace(0, prefix.size(), QStringLiteral("https://") + fromUtf8(host));
+                result.replace(0, prefix.size(), QStringLiteral("https://") + Util::Utf8ToQString(host));
             break;
         }
         return result;
@@ -186,9 +177,9 @@ LinksManager::~LinksManager() = default;
 QString LinksManager::GetUrl(const QString& key) const
 {
     bool known = false;
-    const QString urlTemplate = d->templateFor(toUtf8(key), &known);
+    const QString urlTemplate = d->templateFor(Util::QStringToUtf8(key), &known);
     if (!known && urlTemplate.isEmpty()) {
-        LOG(WARNING) << "No link under the key name \"" << toUtf8(key) << "\"";
+        LOG(WARNING) << "No link under the key name \"" << Util::QStringToUtf8(key) << "\"";
         return QString();
     }
     return urlTemplate.isEmpty() ? QString() : GenerateUrl(urlTemplate, {});
@@ -202,7 +193,7 @@ QString LinksManager::GetUrl(URLKeys key) const
         LOG(WARNING) << "No link under the key number " << static_cast<int>(key);
         return QString();
     }
-    return GetUrl(fromUtf8(name->second));
+    return GetUrl(Util::Utf8ToQString(name->second));
 }
 
 QString LinksManager::GenerateUrl(const QString& url, QMap<QString, QString> parameters) const
@@ -265,12 +256,14 @@ void LinksManager::OpenUrl(const QString& url) const
 {
     const QUrl target(url);
     if (url.isEmpty() || !target.isValid()) {
-        LOG(WARNING) << "Not opening the link \"" << toUtf8(Core::PersonalDataMask::mask(url))
-                     << "\": " << (url.isEmpty() ? std::string("it is empty") : toUtf8(target.errorString()));
+        LOG(WARNING) << "Not opening the link \"" << Util::QStringToUtf8(Core::PersonalDataMask::mask(url))
+                     << "\": "
+                     << (url.isEmpty() ? std::string("it is empty")
+                                       : Util::QStringToUtf8(target.errorString()));
         return;
     }
     if (!QDesktopServices::openUrl(target))
-        LOG(WARNING) << "Nothing opened the link " << toUtf8(Core::PersonalDataMask::mask(url));
+        LOG(WARNING) << "Nothing opened the link " << Util::QStringToUtf8(Core::PersonalDataMask::mask(url));
 }
 
 void LinksManager::OpenUrl(URLKeys key) const

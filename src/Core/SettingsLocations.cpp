@@ -1,4 +1,5 @@
 #include "Core/SettingsLocations.h"
+#include "Foundation/Utf8.h"
 
 #include <glog/logging.h>
 
@@ -34,7 +35,7 @@ QString SettingsLocations::filePath(Scope scope)
     // A store made before the product names itself reads and writes another folder for the whole
     // run, and the user's settings seem lost: say so where a product engineer will look.
     if (QCoreApplication::organizationName().isEmpty())
-        LOG(WARNING) << "Settings file " << path.toStdString()
+        LOG(WARNING) << "Settings file " << Util::QStringToUtf8(path)
                      << " is outside the product's folder: the organization name is not set yet";
     return path;
 }

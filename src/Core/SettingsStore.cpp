@@ -1,6 +1,7 @@
 #include "Core/SettingsStore.h"
 #include "Core/SettingsText_p.h"
 #include "Foundation/UserOnlyFiles.h"
+#include "Foundation/Utf8.h"
 
 #include <glog/logging.h>
 
@@ -17,22 +18,12 @@ namespace Ostrel::App {
 
 namespace {
 
-QString toQString(const std::string& text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
-
-std::string toUtf8(const QString& text)
-{
-    return text.toUtf8().toStdString();
-}
-
 std::vector<std::string> toUtf8List(const QStringList& list)
 {
     std::vector<std::string> result;
     result.reserve(static_cast<std::size_t>(list.size()));
     for (const QString& item : list)
-        result.push_back(toUtf8(item));
+        result.push_back(Util::QStringToUtf8(item));
     return result;
 }
 
@@ -66,7 +57,7 @@ public:
             const std::optional<int> badLine = file.open(QIODevice::ReadOnly)
                                                    ? SettingsText::firstMalformedLine(file.readAll())
                                                    : std::nullopt;
-            LOG(ERROR) << "Settings file " << toUtf8(path) << " is unreadable or broken"
+            LOG(ERROR) << "Settings file " << Util::QStringToUtf8(path) << " is unreadable or broken"
                        << (badLine ? " (line " + std::to_string(*badLine) + ")" : std::string())
                        << "; it is left untouched and nothing is saved to it in this run";
         }
@@ -77,7 +68,7 @@ public:
     {
         if (!checkKey(key, "read"))
             return std::nullopt;
-        const QVariant value = settings.value(toQString(key));
+        const QVariant value = settings.value(Util::Utf8ToQString(key));
         if (!value.isValid())
             return std::nullopt;
         return textOf(value);
@@ -85,15 +76,15 @@ public:
 
     void warnUnconvertible(const std::string& key, const QString& value, const char* type) const
     {
-        LOG(WARNING) << "Settings value " << key << "=\"" << toUtf8(value) << "\" in " << toUtf8(filePath)
-                     << " is not a " << type << "; using the default";
+        LOG(WARNING) << "Settings value " << key << "=\"" << Util::QStringToUtf8(value) << "\" in "
+                     << Util::QStringToUtf8(filePath) << " is not a " << type << "; using the default";
     }
 
     bool checkKey(const std::string& key, const char* operation) const
     {
         if (!key.empty())
             return true;
-        LOG(WARNING) << "Settings " << operation << " with an empty key in " << toUtf8(filePath)
+        LOG(WARNING) << "Settings " << operation << " with an empty key in " << Util::QStringToUtf8(filePath)
                      << " ignored";
         return false;
     }
@@ -107,7 +98,7 @@ public:
             checkBeforeFirstWrite();
         }
         if (readOnly) {
-            LOG(WARNING) << "Settings write of \"" << key << "\" ignored: " << toUtf8(filePath)
+            LOG(WARNING) << "Settings write of \"" << key << "\" ignored: " << Util::QStringToUtf8(filePath)
                          << " is kept untouched in this run";
             return false;
         }
@@ -124,7 +115,8 @@ public:
             // Created user-only before QSettings writes it: its atomic save keeps the mode of the
             // file it replaces.
             if (!Core::UserOnlyFiles::prepareFile(filePath))
-                LOG(WARNING) << "Settings file " << toUtf8(filePath) << " could not be created user-only";
+                LOG(WARNING) << "Settings file " << Util::QStringToUtf8(filePath)
+                             << " could not be created user-only";
             return;
         }
         if (!file.open(QIODevice::ReadOnly))
@@ -133,15 +125,16 @@ public:
         if (!badLine)
             return;
         readOnly = true;
-        LOG(ERROR) << "Settings file " << toUtf8(filePath) << " has a line that is not a setting (line "
-                   << *badLine << "); it is left untouched and nothing is saved to it in this run";
+        LOG(ERROR) << "Settings file " << Util::QStringToUtf8(filePath)
+                   << " has a line that is not a setting (line " << *badLine
+                   << "); it is left untouched and nothing is saved to it in this run";
     }
 
     void write(const std::string& key, const QVariant& value)
     {
         // Each write is a locked, synced, atomic save of the whole file: a value that is already
         // there (same type, same value) is not saved again.
-        const QString name = toQString(key);
+        const QString name = Util::Utf8ToQString(key);
         const QVariant stored = settings.value(name);
         if (stored.isValid() && stored.userType() == value.userType() && stored == value)
             return;
@@ -156,13 +149,13 @@ public:
         // comment); the write itself went through.
         if (settings.status() == QSettings::AccessError && !writeErrorReported) {
             writeErrorReported = true;
-            LOG(ERROR) << "Settings file " << toUtf8(filePath) << " could not be written";
+            LOG(ERROR) << "Settings file " << Util::QStringToUtf8(filePath) << " could not be written";
         }
     }
 
     QStringList childrenOf(const std::string& group, bool groups) const
     {
-        settings.beginGroup(toQString(group));
+        settings.beginGroup(Util::Utf8ToQString(group));
         const QStringList result = groups ? settings.childGroups() : settings.childKeys();
         settings.endGroup();
         return result;
@@ -196,7 +189,7 @@ void SettingsStore::SetString(const std::string& key, const std::string& value)
 {
     std::lock_guard<std::recursive_mutex> lock(d->mutex);
     if (d->checkWritable(key))
-        d->write(key, toQString(value));
+        d->write(key, Util::Utf8ToQString(value));
 }
 
 bool SettingsStore::GetBool(const std::string& key, bool defaultValue) const
@@ -215,7 +208,7 @@ std::string SettingsStore::GetString(const std::string& key, const std::string& 
 {
     std::lock_guard<std::recursive_mutex> lock(d->mutex);
     const std::optional<QString> text = d->text(key);
-    return text ? toUtf8(*text) : defaultValue;
+    return text ? Util::QStringToUtf8(*text) : defaultValue;
 }
 
 unsigned int SettingsStore::GetUInt(const std::string& key, unsigned int defaultValue) const
@@ -249,7 +242,7 @@ int SettingsStore::GetInt(const std::string& key, int defaultValue) const
 bool SettingsStore::Has(const std::string& key) const
 {
     std::lock_guard<std::recursive_mutex> lock(d->mutex);
-    return d->checkKey(key, "lookup") && d->settings.contains(toQString(key));
+    return d->checkKey(key, "lookup") && d->settings.contains(Util::Utf8ToQString(key));
 }
 
 void SettingsStore::Remove(const std::string& key)
@@ -257,7 +250,7 @@ void SettingsStore::Remove(const std::string& key)
     std::lock_guard<std::recursive_mutex> lock(d->mutex);
     if (!d->checkWritable(key))
         return;
-    const QString name = toQString(key);
+    const QString name = Util::Utf8ToQString(key);
     // QSettings::remove() also takes every key below a group of the same name; put those back
     // before syncing so that the file never misses them.
     QList<QPair<QString, QVariant>> below;
@@ -298,7 +291,7 @@ void SettingsStore::RemoveGroup(const std::string& group)
     std::lock_guard<std::recursive_mutex> lock(d->mutex);
     if (!d->checkWritable(group))
         return;
-    d->settings.remove(toQString(group));
+    d->settings.remove(Util::Utf8ToQString(group));
     d->flush();
 }
 

@@ -1,9 +1,9 @@
 #include "Email/EmailDialog_p.h"
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/ILinksManager.h"
 #include "Interfaces/IMailSettingsManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

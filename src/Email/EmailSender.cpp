@@ -1,9 +1,9 @@
 #include "Email/EmailSender.h"
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/IHttpClient.h"
 #include "Interfaces/ILinksGenerator.h"
 #include "Interfaces/IMailSettingsManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

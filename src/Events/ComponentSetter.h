@@ -20,9 +20,6 @@ public:
             std::lock_guard<std::mutex> lock(m_mutex);
             if (m_value.lock().get() == value.get())
                 return;
-        }
-        {
-            std::lock_guard<std::mutex> lock(m_mutex);
             m_value = value;
         }
         handlers().Notify(&ComponentSetterObserver::onSet);

@@ -1,6 +1,7 @@
 #include "Foundation/AppendFile.h"
 
 #include "Foundation/UserOnlyFiles.h"
+#include "Foundation/Utf8.h"
 
 #include <glog/logging.h>
 
@@ -14,11 +15,6 @@ namespace Ostrel::Core {
 namespace {
 
 constexpr qint64 DefaultSizeCap = 10 * 1024 * 1024;
-
-std::string toUtf8(const QString& text)
-{
-    return text.toUtf8().toStdString();
-}
 
 bool endsWithNewline(const QString& path)
 {
@@ -66,15 +62,15 @@ public:
         const QString older = file.fileName() + QStringLiteral(".1");
         QFile::remove(older);
         if (!QFile::rename(file.fileName(), older))
-            LOG(WARNING) << "Could not rotate " << toUtf8(file.fileName()) << " past its size cap of "
-                         << sizeCap << " bytes; it keeps growing";
+            LOG(WARNING) << "Could not rotate " << Util::QStringToUtf8(file.fileName())
+                         << " past its size cap of " << sizeCap << " bytes; it keeps growing";
     }
 
     bool fail(const QString& reason)
     {
         if (!failing)
-            LOG(WARNING) << "Could not write to " << toUtf8(file.fileName()) << ": " << toUtf8(reason)
-                         << "; records are lost until a write works again";
+            LOG(WARNING) << "Could not write to " << Util::QStringToUtf8(file.fileName()) << ": "
+                         << Util::QStringToUtf8(reason) << "; records are lost until a write works again";
         failing = true;
         return false;
     }
@@ -123,7 +119,7 @@ bool AppendFile::append(const QByteArray& record)
         return d->fail(reason);
     }
     if (d->failing)
-        LOG(INFO) << "Writing to " << toUtf8(d->file.fileName()) << " works again";
+        LOG(INFO) << "Writing to " << Util::QStringToUtf8(d->file.fileName()) << " works again";
     d->failing = false;
     return true;
 }

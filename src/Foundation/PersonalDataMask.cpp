@@ -1,4 +1,5 @@
 #include "Foundation/PersonalDataMask.h"
+#include "Foundation/Utf8.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -67,7 +68,7 @@ QString PersonalDataMask::mask(const QString& text)
 
 std::string PersonalDataMask::mask(const std::string& text)
 {
-    return mask(QString::fromUtf8(text.data(), static_cast<int>(text.size()))).toUtf8().toStdString();
+    return Util::QStringToUtf8(mask(Util::Utf8ToQString(text)));
 }
 
 void PersonalDataMask::rememberPersonalValue(const QString& value)

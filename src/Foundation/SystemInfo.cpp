@@ -1,4 +1,5 @@
 #include "Foundation/SystemInfo.h"
+#include "Foundation/Utf8.h"
 
 #include <QString>
 #include <QSysInfo>
@@ -12,12 +13,12 @@ int AppBits()
 
 std::string SystemName()
 {
-    return QSysInfo::prettyProductName().toStdString();
+    return Util::QStringToUtf8(QSysInfo::prettyProductName());
 }
 
 std::string ProcessorArchitecture()
 {
-    return QSysInfo::currentCpuArchitecture().toStdString();
+    return Util::QStringToUtf8(QSysInfo::currentCpuArchitecture());
 }
 
 } // namespace Ostrel::Core

@@ -1,6 +1,7 @@
 #include "Http/HttpClient.h"
 
 #include "Foundation/PersonalDataMask.h"
+#include "Foundation/Utf8.h"
 
 #include <glog/logging.h>
 
@@ -18,15 +19,11 @@ namespace Ostrel::Networking {
 
 namespace {
 
-std::string toUtf8(const QString& text)
-{
-    return text.toUtf8().toStdString();
-}
-
 // For log lines and errors: the query is left out, since that is where a request carries the user's data.
 std::string shown(const QUrl& url)
 {
-    return toUtf8(url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveQuery | QUrl::RemoveFragment).toString());
+    return Util::QStringToUtf8(
+        url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveQuery | QUrl::RemoveFragment).toString());
 }
 
 // Why a redirect from `from` to `to` is not followed; empty when it may be. Only web addresses are
@@ -118,7 +115,7 @@ QNetworkAccessManager& HttpClient::accessManager()
 
 void HttpClient::send(const HttpRequest& request, Callback done)
 {
-    const QUrl url(QString::fromStdString(request.url), QUrl::StrictMode);
+    const QUrl url(Util::Utf8ToQString(request.url), QUrl::StrictMode);
     const QString scheme = url.scheme();
     if (!url.isValid() || (scheme != QLatin1String("http") && scheme != QLatin1String("https"))) {
         const std::string error = "invalid URL \"" + request.url + "\"";
@@ -192,10 +189,11 @@ void HttpClient::send(const HttpRequest& request, Callback done)
         if (!state->cutBy.empty())
             response.error = state->cutBy;
         else if (reply->error() != QNetworkReply::NoError)
-            response.error = toUtf8(reply->errorString());
+            response.error = Util::QStringToUtf8(reply->errorString());
         response.body = state->body.toStdString();
         if (!response.error.empty())
-            VLOG(1) << "HTTP request to " << Core::PersonalDataMask::mask(toUtf8(reply->url().toString()))
+            VLOG(1) << "HTTP request to "
+                    << Core::PersonalDataMask::mask(Util::QStringToUtf8(reply->url().toString()))
                     << " failed: " << Core::PersonalDataMask::mask(response.error);
         done(response);
     });

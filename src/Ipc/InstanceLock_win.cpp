@@ -1,5 +1,6 @@
 #include "Ipc/InstanceLock_p.h"
 
+#include "Foundation/Utf8.h"
 #include "Ipc/LocalEndpoint_p.h"
 
 #include <glog/logging.h>
@@ -36,7 +37,7 @@ bool InstanceLock::tryLock(QString* why)
     const Win32::MutexClaim claim = Win32::ClaimNamedMutex(d->name.toStdWString());
     switch (claim.state) {
     case Win32::MutexClaimState::HeldAbandoned:
-        LOG(WARNING) << "The primary instance ended without releasing " << d->name.toStdString()
+        LOG(WARNING) << "The primary instance ended without releasing " << Util::QStringToUtf8(d->name)
                      << "; this process takes over";
         [[fallthrough]];
     case Win32::MutexClaimState::Held:

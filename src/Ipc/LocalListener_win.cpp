@@ -3,6 +3,7 @@
 #include <glog/logging.h>
 
 // After glog: windows.h defines ERROR, which glog refuses to follow.
+#include "Foundation/Utf8.h"
 #include "Ipc/NamedPipeCore_win.h"
 #include "Ipc/UserIdentityCore_win.h"
 
@@ -73,7 +74,7 @@ public:
         const bool ok = ::GetOverlappedResult(connected, &overlapped, &ignored, FALSE) != 0;
         QString why;
         if (!makeInstance(false, &why)) {
-            LOG(ERROR) << "Inter-process requests stop: " << why.toStdString();
+            LOG(ERROR) << "Inter-process requests stop: " << Util::QStringToUtf8(why);
             listening = false;
             notifier->setEnabled(false);
         }

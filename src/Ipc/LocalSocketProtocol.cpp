@@ -1,5 +1,6 @@
 #include "Ipc/LocalSocketProtocol.h"
 
+#include "Foundation/Utf8.h"
 #include "Ipc/InstanceLock_p.h"
 #include "Ipc/IpcFrameReader.h"
 #include "Ipc/LocalEndpoint_p.h"
@@ -19,11 +20,6 @@ namespace {
 constexpr char Acknowledgement = '\x06';
 // Between attempts of a second instance whose primary is not listening yet.
 constexpr int RetryPauseMs = 50;
-
-std::string utf8(const QString& text)
-{
-    return text.toUtf8().toStdString();
-}
 
 // Hashed so that any product name and user make a short, safe file, mutex or pipe name.
 QString endpointKey(const QString& product)
@@ -78,7 +74,7 @@ bool LocalSocketProtocol::Listen()
     QString why;
     if (d->name.isEmpty()) {
         LOG(WARNING) << "Requests of other processes are off, the product runs without hand-off: "
-                     << utf8(d->folderProblem);
+                     << Util::QStringToUtf8(d->folderProblem);
         return false;
     }
     d->lock = std::make_unique<InstanceLock>(d->folder, endpointKey(d->product));
@@ -87,7 +83,7 @@ bool LocalSocketProtocol::Listen()
             d->secondary = true;
             LOG(INFO) << "Another instance is the primary one and takes the requests of other processes";
         } else {
-            LOG(WARNING) << "Requests of other processes are off: " << utf8(why);
+            LOG(WARNING) << "Requests of other processes are off: " << Util::QStringToUtf8(why);
         }
         d->lock.reset();
         return false;
@@ -119,7 +115,7 @@ bool LocalSocketProtocol::Listen()
             }
             const QVector<IpcFrameReader::Message> messages = reader->Feed(socket->readAll());
             if (reader->GetStatus() == IpcFrameReader::Status::Error) {
-                LOG(WARNING) << "Inter-process message dropped: " << utf8(reader->Error());
+                LOG(WARNING) << "Inter-process message dropped: " << Util::QStringToUtf8(reader->Error());
                 socket->abort();
                 return;
             }
@@ -143,11 +139,11 @@ bool LocalSocketProtocol::Listen()
             QMetaObject::invokeMethod(socket, "readyRead", Qt::QueuedConnection);
     });
     if (d->listener->listen(d->name, &why)) {
-        LOG(INFO) << "Listening for requests of other processes at " << utf8(d->name);
+        LOG(INFO) << "Listening for requests of other processes at " << Util::QStringToUtf8(d->name);
         return true;
     }
     LOG(WARNING) << "Cannot listen for requests of other processes, the product runs without hand-off: "
-                 << utf8(why);
+                 << Util::QStringToUtf8(why);
     d->listener.reset();
     return false;
 }
@@ -183,7 +179,7 @@ bool LocalSocketProtocol::SendOpenNag(const QString& product, const QString& url
     QString why;
     const QString folder = LocalEndpoint::PrivateFolder(&why);
     if (folder.isEmpty()) {
-        LOG(WARNING) << "The request is not handed to another instance: " << utf8(why);
+        LOG(WARNING) << "The request is not handed to another instance: " << Util::QStringToUtf8(why);
         return false;
     }
     const QString name = LocalEndpoint::ServerName(folder, endpointKey(product));
@@ -192,7 +188,7 @@ bool LocalSocketProtocol::SendOpenNag(const QString& product, const QString& url
     QLocalSocket socket;
     while (!LocalEndpoint::Connect(socket, name, static_cast<int>(deadline.remainingTime()), &why)) {
         if (deadline.hasExpired()) {
-            LOG(WARNING) << "No instance took the request in time: " << utf8(why);
+            LOG(WARNING) << "No instance took the request in time: " << Util::QStringToUtf8(why);
             return false;
         }
         QThread::msleep(RetryPauseMs);

@@ -1,7 +1,7 @@
 #include "Nag/ContentParams.h"
 
+#include "Foundation/Utf8.h"
 #include "Nag/AbstractContent.h"
-#include "QtUtil/Utf8.h"
 
 namespace Ostrel::App::NagScreen {
 

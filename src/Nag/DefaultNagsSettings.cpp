@@ -1,6 +1,6 @@
 #include "Nag/DefaultNagsSettings.h"
 
-#include "QtUtil/Utf8.h"
+#include "Foundation/Utf8.h"
 
 #include <QLocale>
 

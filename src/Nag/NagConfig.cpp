@@ -1,7 +1,7 @@
 #include "Nag/NagConfig.h"
 
+#include "Foundation/Utf8.h"
 #include "Nag/NagContext.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

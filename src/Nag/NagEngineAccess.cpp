@@ -1,7 +1,7 @@
 #include "Nag/NagEngineAccess_p.h"
 
+#include "Foundation/Utf8.h"
 #include "Nag/NagNetworkAccessManager_p.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

@@ -1,7 +1,7 @@
 #include "Nag/NagFonts.h"
 
+#include "Foundation/Utf8.h"
 #include "QtUtil/FontDatabase.h"
-#include "QtUtil/Utf8.h"
 
 #include <QDir>
 

@@ -1,6 +1,7 @@
 #include "Nag/NagManager.h"
 
 #include "Foundation/PersonalDataMask.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/IProductSettingsManager.h"
 #include "Nag/AbstractContent.h"
 #include "Nag/ContentFactory.h"
@@ -10,7 +11,6 @@
 #include "Nag/IShowStrategy.h"
 #include "Nag/IWebNagUrlGenerator.h"
 #include "Nag/WebQuickContent.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 
@@ -24,11 +24,6 @@
 namespace Ostrel::App::NagScreen {
 
 namespace {
-
-std::string utf8(const QString& text)
-{
-    return Util::QStringToUtf8(text);
-}
 
 // A local nag is showable only if its main.qml is there; a web nag can't be checked before asking.
 bool sourceExists(const NagRecord& record)
@@ -105,8 +100,8 @@ public:
 
     std::string dontShowKey(const QString& action, const QString& nagMode, const QString& id) const
     {
-        return utf8(QStringLiteral("dontShowNag_") + action + QLatin1Char('_') + nagMode + QLatin1Char('/') +
-                    id);
+        return Util::QStringToUtf8(QStringLiteral("dontShowNag_") + action + QLatin1Char('_') + nagMode +
+                                   QLatin1Char('/') + id);
     }
 
     void rememberDontShow(const AbstractContent& content)
@@ -122,7 +117,7 @@ public:
     bool prohibitedToDisable(const QString& action) const
     {
         const auto list = nagsSettings ? nagsSettings->nagsProhibitedToDisable() : std::vector<std::string>();
-        return std::find(list.begin(), list.end(), utf8(action)) != list.end();
+        return std::find(list.begin(), list.end(), Util::QStringToUtf8(action)) != list.end();
     }
 
     bool disabled(const QString& action) const
@@ -247,8 +242,9 @@ void NagManager::AddNag(const QString& mode, const QString& action, const QUrl& 
                         const std::string& nagName, int)
 {
     if (action.isEmpty() || !url.isValid() || url.isEmpty()) {
-        LOG(WARNING) << "A nag without action or valid address was not added: action \"" << utf8(action)
-                     << "\", address \"" << utf8(Core::PersonalDataMask::mask(url.toString())) << "\"";
+        LOG(WARNING) << "A nag without action or valid address was not added: action \""
+                     << Util::QStringToUtf8(action) << "\", address \""
+                     << Util::QStringToUtf8(Core::PersonalDataMask::mask(url.toString())) << "\"";
         return;
     }
     NagRecord record;
@@ -314,12 +310,14 @@ int NagManager::ShowNag(const QString& action)
     self->lastHash.reset();
     const auto strategy = self->showStrategy;
     if (!strategy) {
-        LOG(ERROR) << "No show strategy is set; the nag of " << utf8(action) << " is not shown";
+        LOG(ERROR) << "No show strategy is set; the nag of " << Util::QStringToUtf8(action)
+                   << " is not shown";
         return -1;
     }
     const bool overridden = self->overrides.contains(action);
     if (!overridden && !self->available(action)) {
-        LOG(INFO) << "No nag to show for action " << utf8(action) << " in mode " << utf8(self->mode);
+        LOG(INFO) << "No nag to show for action " << Util::QStringToUtf8(action) << " in mode "
+                  << Util::QStringToUtf8(self->mode);
         return -1;
     }
     const std::optional<NagRecord> record =
@@ -341,7 +339,7 @@ int NagManager::ShowNag(const QString& action)
         loop.exec();
     }
     if (content->State() != ContentState::Ready) {
-        LOG(ERROR) << "The nag of " << utf8(action) << " did not load; nothing is shown";
+        LOG(ERROR) << "The nag of " << Util::QStringToUtf8(action) << " did not load; nothing is shown";
         return -1;
     }
     const std::weak_ptr<Impl> weak = self;
@@ -358,15 +356,16 @@ int NagManager::ShowNag(const QString& action)
     // a show cut short (a failure, the program ending) makes the next request ask for it again.
     const auto locks = self->nagIdLocks;
     const auto* web = qobject_cast<const WebQuickContent*>(content.get());
-    const std::string promised = locks && web ? utf8(web->ReportedId()) : std::string();
-    const std::string lockAction = utf8(content->AppAction());
-    const std::string lockMode = utf8(content->AppMode());
+    const std::string promised = locks && web ? Util::QStringToUtf8(web->ReportedId()) : std::string();
+    const std::string lockAction = Util::QStringToUtf8(content->AppAction());
+    const std::string lockMode = Util::QStringToUtf8(content->AppMode());
     if (!promised.empty())
         locks->lockNagId(lockAction, lockMode, promised);
 
-    LOG(INFO) << "Showing the nag " << utf8(content->Id()) << " for " << utf8(action);
+    LOG(INFO) << "Showing the nag " << Util::QStringToUtf8(content->Id()) << " for "
+              << Util::QStringToUtf8(action);
     const int code = strategy->ShowNag(*content);
-    LOG(INFO) << "The nag of " << utf8(action) << " ended with " << code;
+    LOG(INFO) << "The nag of " << Util::QStringToUtf8(action) << " ended with " << code;
 
     // Seen: the promise is kept. The lock goes only while it still names this nag.
     if (!promised.empty() && code != -1 && content->State() != ContentState::Failed &&

@@ -1,6 +1,6 @@
 #include "Nag/QuickContent.h"
 
-#include "QtUtil/Utf8.h"
+#include "Foundation/Utf8.h"
 
 #include <QQmlEngine>
 #include <QQuickItem>

@@ -1,4 +1,5 @@
 #include "Nag/WebConfigDocument.h"
+#include "Foundation/Utf8.h"
 
 #include <glog/logging.h>
 
@@ -47,7 +48,7 @@ WebConfigDocument WebConfigDocument::fromJson(const QByteArray& json)
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (!document.isObject()) {
         LOG(ERROR) << "The web configuration is not a JSON object ("
-                   << error.errorString().toStdString() << " at " << error.offset << "); using none";
+                   << Util::QStringToUtf8(error.errorString()) << " at " << error.offset << "); using none";
         return {};
     }
     return WebConfigDocument(document.object());

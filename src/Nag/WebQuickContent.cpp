@@ -1,7 +1,7 @@
 #include "Nag/WebQuickContent.h"
 
+#include "Foundation/Utf8.h"
 #include "Nag/IWebNagUrlGenerator.h"
-#include "QtUtil/Utf8.h"
 
 #include <QQuickItem>
 #include <QQuickWidget>

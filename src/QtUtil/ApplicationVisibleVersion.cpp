@@ -1,6 +1,6 @@
 #include "QtUtil/ApplicationVisibleVersion.h"
 
-#include "QtUtil/Utf8.h"
+#include "Foundation/Utf8.h"
 
 #include <QStringList>
 

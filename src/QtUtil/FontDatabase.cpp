@@ -1,6 +1,6 @@
 #include "QtUtil/FontDatabase.h"
 
-#include "QtUtil/Utf8.h"
+#include "Foundation/Utf8.h"
 
 #include <glog/logging.h>
 

@@ -1,9 +1,9 @@
 #include "QtUtil/HardwareInfoReport.h"
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "QtUtil/ApplicationVisibleVersion.h"
 #include "QtUtil/HardwareInfoReport_p.h"
-#include "QtUtil/Utf8.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,6 +1,7 @@
 #include "Tracking/GeneralOstrelTracker.h"
 
 #include "Foundation/AppendFile.h"
+#include "Foundation/Utf8.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -10,11 +11,6 @@
 namespace Ostrel::Tracking {
 
 namespace {
-
-QString fromUtf8(const std::string& text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 QString timestamp()
 {
@@ -57,10 +53,10 @@ void GeneralOstrelTracker::sendEvent(const std::string& name,
 {
     QJsonObject jsonParams;
     for (const auto& [key, value] : params)
-        jsonParams.insert(fromUtf8(key), fromUtf8(value));
+        jsonParams.insert(Util::Utf8ToQString(key), Util::Utf8ToQString(value));
     QJsonObject event;
     event.insert(QStringLiteral("time"), timestamp());
-    event.insert(QStringLiteral("event"), fromUtf8(name));
+    event.insert(QStringLiteral("event"), Util::Utf8ToQString(name));
     event.insert(QStringLiteral("params"), jsonParams);
     // The file writes the line whole, or not at all and says so once.
     d->file.append(QJsonDocument(event).toJson(QJsonDocument::Compact) + '\n');

@@ -1,7 +1,7 @@
 #include "App/Application/AbstractPreferredBrowser.h"
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/IProductSettingsManager.h"
-#include "QtUtil/Utf8.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
 #include <QFile>

@@ -1,9 +1,9 @@
 #include "App/Application/AppStoreStatistics.h"
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/IApplicationSettingsManager.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "QtUtil/AlertBox.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

@@ -12,6 +12,7 @@
 #include "Events/NotNull.h"
 #include "Foundation/AppMutexLocker.h"
 #include "Foundation/CrashRecord.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IGateway.h"
 #include "Interfaces/IHardwareInfo.h"
@@ -28,7 +29,6 @@
 #include "Nag/IManager.h"
 #include "QtUtil/ApplicationVisibleVersion.h"
 #include "QtUtil/HardwareInfoReport.h"
-#include "QtUtil/Utf8.h"
 
 #include <boost/core/demangle.hpp>
 #include <boost/exception/diagnostic_information.hpp>
@@ -248,7 +248,8 @@ bool Application::notify(QObject* receiver, QEvent* event)
                    << "\tEvent class: " << eventClass << ". Event type: QEvent::" << (typeName ? typeName : "")
                    << "\n"
                    << "\tException details: " << boost::diagnostic_information(exception, true);
-        const std::string receiverName = receiver ? receiver->objectName().toStdString() : std::string();
+        const std::string receiverName =
+            receiver ? Util::QStringToUtf8(receiver->objectName()) : std::string();
         Core::TrackCurrentException("Receiver: " + receiverClass + " \"" + receiverName +
                                     "\"; event: QEvent::" + (typeName ? typeName : ""));
         throw;
@@ -293,9 +294,9 @@ void Application::Impl::onComponentChanged(const std::shared_ptr<ICustomizationM
     // Null is stored like any other value, but there is no identity to take from it.
     if (!manager)
         return;
-    QCoreApplication::setApplicationName(QString::fromStdString(manager->GetApplicationName()));
+    QCoreApplication::setApplicationName(Util::Utf8ToQString(manager->GetApplicationName()));
     QCoreApplication::setApplicationVersion(Util::GenerateApplicationVisibleVersion(manager->GetVersion()));
-    QCoreApplication::setOrganizationName(QString::fromStdString(manager->GetOrganizationName()));
+    QCoreApplication::setOrganizationName(Util::Utf8ToQString(manager->GetOrganizationName()));
 
     if (FLAGS_minloglevel > google::GLOG_INFO)
         return;

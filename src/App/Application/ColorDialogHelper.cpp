@@ -1,7 +1,7 @@
 #include "App/Application/ColorDialogHelper.h"
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/IApplicationSettingsManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <QColor>
 #include <QColorDialog>

@@ -1,7 +1,7 @@
 #include "App/Application/ConfirmationAlertBox.h"
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/IApplicationSettingsManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <boost/format.hpp>
 

@@ -2,10 +2,10 @@
 
 #include "App/Application/ProductConstants.h"
 #include "Foundation/SHA1.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IHardwareInfo.h"
 #include "Interfaces/IUserSettingsManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <QNetworkRequest>
 

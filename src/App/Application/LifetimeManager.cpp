@@ -2,6 +2,7 @@
 
 #include "App/Application/OnStartHandler_p.h"
 #include "Events/EventHandlerList.h"
+#include "Foundation/Utf8.h"
 #include "QtUtil/AlertBox.h"
 
 #include <QApplication>
@@ -67,7 +68,7 @@ bool LifetimeManager::tryToRestart(WorkingMode mode, const std::string& iconPath
                                "<b>This will restart the application.</b><br>Do you want to continue?"),
                            QMessageBox::Ok | QMessageBox::Cancel, QApplication::activeWindow(),
                            Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-        const QPixmap icon(QString::fromStdString(iconPath));
+        const QPixmap icon(Util::Utf8ToQString(iconPath));
         if (!icon.isNull())
             box.setIconPixmap(icon);
         if (box.Exec() != QMessageBox::Ok)
@@ -79,7 +80,7 @@ bool LifetimeManager::tryToRestart(WorkingMode mode, const std::string& iconPath
 
     QString command = QLatin1Char('"') + QCoreApplication::applicationFilePath() + QLatin1Char('"');
     if (!arguments.empty())
-        command += QLatin1Char(' ') + QString::fromStdString(arguments);
+        command += QLatin1Char(' ') + Util::Utf8ToQString(arguments);
     // The one-string form of startDetached: the command is split by the same rules Qt has always
     // used for it, never by a shell.
     QStringList parts = QProcess::splitCommand(command);

@@ -1,8 +1,8 @@
 #include "App/Application/LookAndFeelHandler.h"
 
 #include "App/Application/LocaleNames.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ILookAndFeelManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <QAction>
 #include <QActionGroup>

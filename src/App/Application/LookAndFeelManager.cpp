@@ -7,9 +7,9 @@
 #include "Foundation/DataInputString.h"
 #include "Foundation/Property.h"
 #include "Foundation/PropertySerializer.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/IQssPreprocessor.h"
 #include "QtUtil/FontDatabase.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

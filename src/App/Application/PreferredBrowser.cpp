@@ -3,10 +3,10 @@
 #include "App/Application/ProductConstants.h"
 #include "App/Application/SystemBrowserSources.h"
 #include "App/Application/URLHandler.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/IInstallerSettingsManager.h"
 #include "Interfaces/ILookAndFeelManager.h"
 #include "Interfaces/IProductSettingsManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -2,7 +2,7 @@
 
 #include "App/Application/PreferredBrowser.h"
 #include "Foundation/PersonalDataMask.h"
-#include "QtUtil/Utf8.h"
+#include "Foundation/Utf8.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
 #include <QDesktopServices>

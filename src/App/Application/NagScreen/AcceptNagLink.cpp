@@ -1,6 +1,6 @@
 #include "App/Application/NagScreen/AcceptNagLink.h"
 
-#include "QtUtil/Utf8.h"
+#include "Foundation/Utf8.h"
 
 #include <glog/logging.h>
 

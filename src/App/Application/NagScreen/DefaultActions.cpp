@@ -2,15 +2,15 @@
 
 #include "App/Application/NagScreen/AcceptNagLink.h"
 #include "Email/EmailSender.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
-#include "Interfaces/IInternetConnectionChecker.h"
 #include "Interfaces/IHttpClient.h"
+#include "Interfaces/IInternetConnectionChecker.h"
 #include "Interfaces/ILinksManager.h"
 #include "Interfaces/IMailSettingsManager.h"
 #include "Nag/AbstractContent.h"
 #include "Nag/INagLinksOpener.h"
 #include "Nag/NagContext.h"
-#include "QtUtil/Utf8.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 
 #include <glog/logging.h>

@@ -7,12 +7,12 @@
 #include "App/Application/NagScreen/ParseDimmingParameters.h"
 #include "App/Application/NagScreen/QmlWindowFocus_p.h"
 #include "App/Application/NagScreen/ShadowDimmer.h"
+#include "Foundation/Utf8.h"
 #include "Nag/AbstractContent.h"
 #include "Nag/INagsSettings.h"
 #include "Nag/QuickContent.h"
 #include "Nag/WebQuickContent.h"
 #include "QtUtil/SpontaneousDialog.h"
-#include "QtUtil/Utf8.h"
 
 #include <boost/scope_exit.hpp>
 

@@ -2,12 +2,12 @@
 
 #include "App/Application/NagScreen/ProductNagHosts.h"
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/URLKeys.h"
 #include "Nag/NagConfig.h"
 #include "Nag/NagContext.h"
 #include "QtUtil/UrlProtocol.h"
-#include "QtUtil/Utf8.h"
 
 #include <QUrl>
 

@@ -5,6 +5,7 @@
 #include "App/Application/RequiredComponent.h"
 #include "Events/NotNull.h"
 #include "Foundation/PersonalDataMask.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ILinksManager.h"
 #include "Interfaces/ILookAndFeelManager.h"
 #include "Nag/AbstractContent.h"
@@ -12,7 +13,6 @@
 #include "Nag/IManager.h"
 #include "Nag/INagLinksOpener.h"
 #include "Nag/IShowStrategy.h"
-#include "QtUtil/Utf8.h"
 #include "Tracking/IApplicationTracker.h"
 
 #include <boost/optional.hpp>
@@ -22,6 +22,7 @@
 #include <QScreen>
 #include <QUrlQuery>
 
+#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -31,11 +32,6 @@ namespace Ostrel::App::NagScreen {
 namespace {
 
 using Params = std::map<std::string, std::string>;
-
-std::string utf8(const QString& text)
-{
-    return Util::QStringToUtf8(text);
-}
 
 // The parameters a nag passed from QML, under upper-case keys; values that aren't text are left out.
 void ReadParams(Params& map, const QVariant& variant)
@@ -47,13 +43,8 @@ void ReadParams(Params& map, const QVariant& variant)
     const QVariantMap values = variant.toMap();
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
         if (it.value().canConvert<QString>())
-            map[utf8(it.key().toUpper())] = utf8(it.value().toString());
+            map[Util::QStringToUtf8(it.key().toUpper())] = Util::QStringToUtf8(it.value().toString());
     }
-}
-
-void ReadParams(Params& map, const QMap<QString, QVariant>& params)
-{
-    ReadParams(map, QVariant(params));
 }
 
 void ReadLink(Params& map, const QString& urlText, const QString& fallbackId)
@@ -61,11 +52,13 @@ void ReadLink(Params& map, const QString& urlText, const QString& fallbackId)
     const QUrl url(urlText, QUrl::TolerantMode);
     const QUrlQuery query(url);
     // A nag link may carry the user's name or address; tracking gets it masked.
-    map["NAG_LINK_URL"] = utf8(Core::PersonalDataMask::mask(url.toDisplayString()));
-    map["NAG_LINK_ID"] = utf8(query.hasQueryItem(QStringLiteral("link_id")) ? query.queryItemValue(QStringLiteral("link_id"))
-                                                                            : fallbackId);
-    map["NAG_ASRC"] = query.hasQueryItem(QStringLiteral("asrc")) ? utf8(query.queryItemValue(QStringLiteral("asrc")))
-                                                                 : std::string("UNDEFINED");
+    map["NAG_LINK_URL"] = Util::QStringToUtf8(Core::PersonalDataMask::mask(url.toDisplayString()));
+    map["NAG_LINK_ID"] = Util::QStringToUtf8(query.hasQueryItem(QStringLiteral("link_id"))
+                                                 ? query.queryItemValue(QStringLiteral("link_id"))
+                                                 : fallbackId);
+    map["NAG_ASRC"] = query.hasQueryItem(QStringLiteral("asrc"))
+                          ? Util::QStringToUtf8(query.queryItemValue(QStringLiteral("asrc")))
+                          : std::string("UNDEFINED");
 }
 
 QString withoutQuery(const QUrl& url)
@@ -100,11 +93,11 @@ bool isBinary(const QString& hash)
 
 void AppendHashParams(Params& map, const IManager::NagHash& hash)
 {
-    map["NAG_HASH_NAME"] = utf8(hash.hashName);
+    map["NAG_HASH_NAME"] = Util::QStringToUtf8(hash.hashName);
     map["NAG_HASH_WIDTH"] = std::to_string(hash.hashSize.width());
     map["NAG_HASH_HEIGHT"] = std::to_string(hash.hashSize.height());
-    map["NAG_INTERNAL_HASH"] = utf8(hash.internalHash);
-    map["NAG_COMPUTED_HASH"] = utf8(hash.computedHash);
+    map["NAG_INTERNAL_HASH"] = Util::QStringToUtf8(hash.internalHash);
+    map["NAG_COMPUTED_HASH"] = Util::QStringToUtf8(hash.computedHash);
     const QString& internal = hash.internalHash;
     const QString& computed = hash.computedHash;
     if (internal.isEmpty() || computed.isEmpty())
@@ -128,13 +121,13 @@ void AppendHashParams(Params& map, const IManager::NagHash& hash)
     const int match = length - distance;
     map["NAG_HASH_MATCH"] = std::to_string(match) + "/" + std::to_string(length);
     // asprintf formats like "%f" in the C locale, whatever the user's locale.
-    map["NAG_HASH_MATCH_PERCENT"] = utf8(QString::asprintf("%f", match * 100.0 / length));
+    map["NAG_HASH_MATCH_PERCENT"] = Util::QStringToUtf8(QString::asprintf("%f", match * 100.0 / length));
 }
 
 std::string screenScale()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return utf8(QString::number(screen ? screen->devicePixelRatio() : 1.0, 'f', 2));
+    return Util::QStringToUtf8(QString::number(screen ? screen->devicePixelRatio() : 1.0, 'f', 2));
 }
 
 // The operation in progress names the links clicked during it; restored on every way out.
@@ -197,7 +190,7 @@ public:
             Params params;
             appendContentParams(params, content);
             ReadLink(params, content.SourceUrl().toString(), m_currentOperation);
-            params["NAG_LOCALE"] = utf8(nagLocale(content));
+            params["NAG_LOCALE"] = Util::QStringToUtf8(nagLocale(content));
             send("NAG_SHOW", params);
             if (const auto manager = m_top.get<IManager>()) {
                 if (m_hashSetter)
@@ -247,13 +240,8 @@ public:
 
     void PerformButtonAction(const AbstractContent& content, const QString& buttonId, const QVariant& value) override
     {
-        if (m_tracker) {
-            Params params;
-            ReadParams(params, value);
-            params["BUTTON_ID"] = utf8(buttonId);
-            appendContentParams(params, content);
-            send("NAG_BUTTON_CLICK", params);
-        }
+        track("NAG_BUTTON_CLICK", content, &value,
+              [&](Params& event) { event["BUTTON_ID"] = Util::QStringToUtf8(buttonId); });
         const OperationScope operation(m_currentOperation, QStringLiteral("PerformButtonAction"));
         m_actions->PerformButtonAction(content, buttonId, value);
     }
@@ -266,40 +254,28 @@ public:
 
     void NagClose(const AbstractContent& content, int code, const QMap<QString, QVariant>& params) override
     {
-        if (m_tracker) {
-            Params event;
-            ReadParams(event, params);
-            appendContentParams(event, content);
-            event["NAG_EXIT"] = std::to_string(code);
-            send("NAG_CLOSE", event);
-        }
+        const QVariant values(params);
+        track("NAG_CLOSE", content, &values,
+              [&](Params& event) { event["NAG_EXIT"] = std::to_string(code); });
         const OperationScope operation(m_currentOperation, QStringLiteral("NagClose"));
         m_actions->NagClose(content, code, params);
     }
 
     void PerformCustomAction(const AbstractContent& content, const QString& action, const QVariant& value) override
     {
-        if (m_tracker) {
-            Params params;
-            // An address or a survey answer is the user's own: it never goes to the tracker.
-            if (action != QLatin1String("collectEmail") && action != QLatin1String("sendNPSInfo"))
-                ReadParams(params, value);
-            appendContentParams(params, content);
-            params["NAG_CUSTOM_ACTION"] = utf8(action);
-            send("CUSTOM_ACTION_PERFORMED", params);
-        }
+        // An address or a survey answer is the user's own: it never goes to the tracker.
+        const bool personal =
+            action == QLatin1String("collectEmail") || action == QLatin1String("sendNPSInfo");
+        track("CUSTOM_ACTION_PERFORMED", content, personal ? nullptr : &value,
+              [&](Params& event) { event["NAG_CUSTOM_ACTION"] = Util::QStringToUtf8(action); });
         const OperationScope operation(m_currentOperation, QStringLiteral("PerformCustomAction"));
         m_actions->PerformCustomAction(content, action, value);
     }
 
     void ScreenShown(const AbstractContent& content, const QMap<QString, QVariant>& params) override
     {
-        if (m_tracker) {
-            Params event;
-            ReadParams(event, params);
-            appendContentParams(event, content);
-            send("NAG_SCREEN_SHOW", event);
-        }
+        const QVariant values(params);
+        track("NAG_SCREEN_SHOW", content, &values);
         const OperationScope operation(m_currentOperation, QStringLiteral("ScreenShown"));
         m_actions->ScreenShown(content, params);
     }
@@ -307,28 +283,22 @@ public:
     // INagLinksOpener
     void OpenUrl(const AbstractContent& content, const QString& url, const QMap<QString, QVariant>& params) override
     {
-        if (m_tracker) {
-            Params event;
-            ReadParams(event, params);
-            appendContentParams(event, content);
+        const QVariant values(params);
+        track("NAG_LINK_CLICK", content, &values, [&](Params& event) {
             FindLinkKey(event, url);
             ReadLink(event, url, m_currentOperation);
-            send("NAG_LINK_CLICK", event);
-        }
+        });
         m_opener->OpenUrl(content, url, params);
     }
 
     void OpenUrl(const AbstractContent& content, URLKeys key, const QMap<QString, QVariant>& params) override
     {
-        if (m_tracker) {
-            Params event;
-            ReadParams(event, params);
-            appendContentParams(event, content);
+        const QVariant values(params);
+        track("NAG_LINK_CLICK", content, &values, [&](Params& event) {
             const auto name = UrlKeyNames().find(key);
             event["NAG_LINK_URL_KEY"] = name != UrlKeyNames().end() ? name->second : std::to_string(static_cast<int>(key));
             ReadLink(event, m_links->GetUrl(key), m_currentOperation);
-            send("NAG_LINK_CLICK", event);
-        }
+        });
         m_opener->OpenUrl(content, key, params);
     }
 
@@ -360,6 +330,22 @@ private:
     }
 
     void send(const std::string& name, const Params& params) { m_tracker->sendEvent(name, params); }
+
+    // One event of a nag's own: the values it passed (none when null) beneath the content's fields,
+    // then the fields of this event.
+    void track(const std::string& name, const AbstractContent& content, const QVariant* values,
+               const std::function<void(Params&)>& fields = {})
+    {
+        if (!m_tracker)
+            return;
+        Params event;
+        if (values)
+            ReadParams(event, *values);
+        appendContentParams(event, content);
+        if (fields)
+            fields(event);
+        send(name, event);
+    }
 
     const ITopManager& m_top;
     std::shared_ptr<Tracking::IApplicationTracker> m_tracker;

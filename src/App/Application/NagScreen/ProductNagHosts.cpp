@@ -1,8 +1,8 @@
 #include "App/Application/NagScreen/ProductNagHosts.h"
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/URLKeys.h"
-#include "QtUtil/Utf8.h"
 
 #include <QUrl>
 

@@ -5,6 +5,7 @@
 #include "App/Application/RequiredComponent.h"
 #include "Foundation/SHA1.h"
 #include "Foundation/SystemInfo.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IHardwareInfo.h"
 #include "Interfaces/ILinksManager.h"
@@ -13,7 +14,6 @@
 #include "Interfaces/IUserSettingsManager.h"
 #include "QtUtil/ApplicationVisibleVersion.h"
 #include "QtUtil/UrlProtocol.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 
@@ -33,6 +33,7 @@ const char* productAppName()
     return "home-capture-desk";
 }
 
+// Stays beside requiredComponent: that one only logs, while an address without the component is wrong.
 template <class T>
 std::shared_ptr<T> required(const ITopManager& top, const char* what)
 {
@@ -40,11 +41,6 @@ std::shared_ptr<T> required(const ITopManager& top, const char* what)
     if (!component)
         throw std::logic_error(std::string("WebNagUrlGenerator: no ") + what);
     return component;
-}
-
-QString fromUtf8(const std::string& text)
-{
-    return Util::Utf8ToQString(text);
 }
 
 // Nags of this action and mode that the user asked not to see again, each followed by a comma:
@@ -55,7 +51,7 @@ QString excludedNags(const IProductSettingsManager& settings, const QString& act
     QString result;
     for (const std::string& child : settings.ChildKeys(group)) {
         if (settings.GetBool(group + "/" + child, true))
-            result += fromUtf8(child) + QLatin1Char(',');
+            result += Util::Utf8ToQString(child) + QLatin1Char(',');
     }
     return result;
 }
@@ -79,7 +75,7 @@ WebNagUrlGenerator::WebNagUrlGenerator(const ITopManager& top, const std::shared
 {
     const auto customization = top.get<ICustomizationManager>();
     if (m_appName.isEmpty() && customization)
-        m_appName = fromUtf8(customization->GetInternalId());
+        m_appName = Util::Utf8ToQString(customization->GetInternalId());
     if (customization)
         m_appVersion = Util::GenerateApplicationVisibleVersion(customization->GetVersion()).replace(QLatin1Char('.'), QLatin1Char('-'));
     else
@@ -123,28 +119,32 @@ QUrl WebNagUrlGenerator::Generate(const QString& mode, const QString& action, co
 
     QString includeId;
     if (m_storage)
-        includeId = fromUtf8(m_storage->getLockedNagId(Util::QStringToUtf8(action), Util::QStringToUtf8(mode)));
+        includeId = Util::Utf8ToQString(
+            m_storage->getLockedNagId(Util::QStringToUtf8(action), Util::QStringToUtf8(mode)));
     else
         LOG(ERROR) << "A web nag URL was asked of a generator without a lock storage; no nag id is included";
 
     QMap<QString, QString> macros;
     macros.insert(QStringLiteral("-APP_NAME-"), m_appName);
-    macros.insert(QStringLiteral("-MODULE_NAME-"), fromUtf8(customization->GetModuleName()));
+    macros.insert(QStringLiteral("-MODULE_NAME-"), Util::Utf8ToQString(customization->GetModuleName()));
     macros.insert(QStringLiteral("-APP_VERSION-"), m_appVersion);
-    macros.insert(QStringLiteral("-PARTNER-"), fromUtf8(productSettings->GetString("PartnerName", std::string())));
+    macros.insert(QStringLiteral("-PARTNER-"),
+                  Util::Utf8ToQString(productSettings->GetString("PartnerName", std::string())));
     macros.insert(QStringLiteral("-APP_MODE-"), mode);
     macros.insert(QStringLiteral("-LANG-"), LanguageCode(lang));
     macros.insert(QStringLiteral("-APP_ACTION-"), action);
-    macros.insert(QStringLiteral("-USERID-"), fromUtf8(userId));
-    macros.insert(QStringLiteral("-OS_VERSION-"), fromUtf8(Core::SystemName()));
+    macros.insert(QStringLiteral("-USERID-"), Util::Utf8ToQString(userId));
+    macros.insert(QStringLiteral("-OS_VERSION-"), Util::Utf8ToQString(Core::SystemName()));
     macros.insert(QStringLiteral("-OS_BITS-"), QString::number(Core::OSBits()));
     macros.insert(QStringLiteral("-PLATFORM-"), QString::number(Core::AppBits()));
-    macros.insert(QStringLiteral("-CPU_ARCH-"), fromUtf8(Core::ProcessorArchitecture()));
+    macros.insert(QStringLiteral("-CPU_ARCH-"), Util::Utf8ToQString(Core::ProcessorArchitecture()));
     macros.insert(QStringLiteral("-EXCLUDE-"), excludedNags(*productSettings, action, mode));
     macros.insert(QStringLiteral("-INCLUDE_NAG_ID-"), includeId);
-    macros.insert(QStringLiteral("-BUNDLE_NAME-"), fromUtf8(productSettings->GetString("BUNDLE_NAME", "UNDEFINED")));
-    macros.insert(QStringLiteral("-WEBUID-"), fromUtf8(userSettings->GetString("WEBUID", "UNDEFINED")));
-    macros.insert(QStringLiteral("-BRAND_NAME-"), fromUtf8(customization->GetBrand()));
+    macros.insert(QStringLiteral("-BUNDLE_NAME-"),
+                  Util::Utf8ToQString(productSettings->GetString("BUNDLE_NAME", "UNDEFINED")));
+    macros.insert(QStringLiteral("-WEBUID-"),
+                  Util::Utf8ToQString(userSettings->GetString("WEBUID", "UNDEFINED")));
+    macros.insert(QStringLiteral("-BRAND_NAME-"), Util::Utf8ToQString(customization->GetBrand()));
     macros.insert(QStringLiteral("-GIFT_ID-"), QString::number(m_giftId ? m_giftId() : std::rand()));
 
     QString base = links->GetUrl(CUSTOM_WEB_NAG_URL);
@@ -159,7 +159,7 @@ QUrl WebNagUrlGenerator::Generate(const QString& mode, const QString& action, co
 QUrl WebNagUrlGenerator::Generate(const NagContext& context)
 {
     const auto lookAndFeel = required<ILookAndFeelManager>(m_top, "look and feel manager");
-    return Generate(context.mode, context.action, fromUtf8(lookAndFeel->GetCurrentLocale()));
+    return Generate(context.mode, context.action, Util::Utf8ToQString(lookAndFeel->GetCurrentLocale()));
 }
 
 QString WebNagUrlGenerator::GetAppName() const

@@ -1,7 +1,7 @@
 #include "App/Application/Testing/DummytTestLocales.h"
 
+#include "Foundation/Utf8.h"
 #include "Interfaces/ILookAndFeelManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <QCommandLineParser>
 

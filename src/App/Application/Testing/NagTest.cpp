@@ -4,12 +4,12 @@
 #include "App/Application/NagScreen/NagScreenTestForm.h"
 #include "App/Application/Testing/DummytTestLocales.h"
 #include "App/Application/Testing/TestNagContext_p.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/ILookAndFeelManager.h"
 #include "Nag/AbstractContent.h"
 #include "Nag/DefaultNagsSettings.h"
 #include "Nag/IManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

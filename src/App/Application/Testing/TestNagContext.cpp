@@ -1,7 +1,7 @@
 #include "App/Application/Testing/TestNagContext_p.h"
 
+#include "Foundation/Utf8.h"
 #include "QtUtil/AlertBox.h"
-#include "QtUtil/Utf8.h"
 
 #include <boost/exception/all.hpp>
 #include <boost/throw_exception.hpp>

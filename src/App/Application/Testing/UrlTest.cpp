@@ -2,12 +2,12 @@
 
 #include "App/Application/Testing/DummytTestLocales.h"
 #include "App/Application/Testing/LogURLHandler.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/ILinksManager.h"
 #include "Interfaces/ILookAndFeelManager.h"
 #include "Interfaces/URLKeys.h"
 #include "QtUtil/AlertBox.h"
-#include "QtUtil/Utf8.h"
 
 #include <glog/logging.h>
 

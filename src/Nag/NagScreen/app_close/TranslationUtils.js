@@ -1,5 +1,6 @@
 // Texts of this nag in every locale the product ships. Tags are the English texts.
 // Not a library script: it reads the context property "callback" of the nag.
+// Shared texts and the lookup stay copied in every nag: a nag's folder holds each text it shows.
 
 var locale = "";
 

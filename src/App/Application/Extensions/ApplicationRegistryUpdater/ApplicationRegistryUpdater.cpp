@@ -2,8 +2,8 @@
 
 #include "App/Application/ProductConstants.h"
 #include "Events/NotNull.h"
+#include "Foundation/Utf8.h"
 #include "Interfaces/IProductSettingsManager.h"
-#include "QtUtil/Utf8.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "QtUtil/Utf8.h"
+#include "Foundation/Utf8.h"
 
 #include <QByteArray>
 

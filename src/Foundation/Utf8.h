@@ -1,6 +1,6 @@
 #pragma once
 
-#include "QtUtil/ostrel_qtutil_export.h"
+#include "Foundation/ostrel_foundation_export.h"
 
 #include <QString>
 
@@ -9,9 +9,9 @@
 namespace Ostrel::Util {
 
 /// The UTF-8 bytes of `text`. Every std::string that crosses into the shell's interfaces is UTF-8.
-OSTREL_QTUTIL_EXPORT std::string QStringToUtf8(const QString& text);
+OSTREL_FOUNDATION_EXPORT std::string QStringToUtf8(const QString& text);
 
 /// Decodes UTF-8 bytes; invalid sequences become U+FFFD rather than failing.
-OSTREL_QTUTIL_EXPORT QString Utf8ToQString(const std::string& text);
+OSTREL_FOUNDATION_EXPORT QString Utf8ToQString(const std::string& text);
 
 } // namespace Ostrel::Util
