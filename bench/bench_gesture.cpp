@@ -24,11 +24,26 @@ void* operator new(std::size_t size)
         return p;
     throw std::bad_alloc();
 }
-void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* p) noexcept { std::free(p); }
-void operator delete[](void* p) noexcept { std::free(p); }
-void operator delete(void* p, std::size_t) noexcept { std::free(p); }
-void operator delete[](void* p, std::size_t) noexcept { std::free(p); }
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+void operator delete(void* p) noexcept
+{
+    std::free(p);
+}
+void operator delete[](void* p) noexcept
+{
+    std::free(p);
+}
+void operator delete(void* p, std::size_t) noexcept
+{
+    std::free(p);
+}
+void operator delete[](void* p, std::size_t) noexcept
+{
+    std::free(p);
+}
 
 namespace {
 
@@ -46,7 +61,10 @@ public:
         return true;
     }
     bool CloseGestureInfoHandle(void*) override { return true; }
-    bool SetGestureConfig(void*, std::uint32_t, std::uint32_t, ConfigEntry*, std::uint32_t) override { return true; }
+    bool SetGestureConfig(void*, std::uint32_t, std::uint32_t, ConfigEntry*, std::uint32_t) override
+    {
+        return true;
+    }
     bool ScreenToClient(void*, Point* p) override
     {
         p->x -= 5;
@@ -69,11 +87,7 @@ public:
 class BenchProducer final : public Gesture::Producer
 {
 public:
-    BenchProducer(StubApi& api, CountingConsumer& consumer)
-        : Producer(api)
-        , m_consumer(consumer)
-    {
-    }
+    BenchProducer(StubApi& api, CountingConsumer& consumer) : Producer(api), m_consumer(consumer) {}
     Gesture::Consumer* Route(const Gesture&) override { return &m_consumer; }
     bool notify() { return OnGestureNotify(nullptr, nullptr, nullptr); }
     bool gesture() { return OnGesture(nullptr, nullptr, this); }
@@ -101,9 +115,18 @@ void decodeOne(benchmark::State& state, std::uint32_t id)
     benchmark::DoNotOptimize(consumer.sum);
 }
 
-void BM_DecodePan(benchmark::State& state) { decodeOne(state, 4); }
-void BM_DecodeZoom(benchmark::State& state) { decodeOne(state, 3); }
-void BM_DecodeRotate(benchmark::State& state) { decodeOne(state, 5); }
+void BM_DecodePan(benchmark::State& state)
+{
+    decodeOne(state, 4);
+}
+void BM_DecodeZoom(benchmark::State& state)
+{
+    decodeOne(state, 3);
+}
+void BM_DecodeRotate(benchmark::State& state)
+{
+    decodeOne(state, 5);
+}
 
 void BM_Notify(benchmark::State& state)
 {

@@ -46,7 +46,8 @@ public:
         --openHandles;
         return true;
     }
-    bool SetGestureConfig(void*, std::uint32_t, std::uint32_t count, ConfigEntry* configs, std::uint32_t size) override
+    bool SetGestureConfig(void*, std::uint32_t, std::uint32_t count, ConfigEntry* configs,
+                          std::uint32_t size) override
     {
         if ((count != 1 && count != 5) || size != 12)
             std::abort();
@@ -88,11 +89,7 @@ public:
 class FuzzProducer final : public Gesture::Producer
 {
 public:
-    FuzzProducer(FuzzApi& api, AnsweringConsumer& consumer)
-        : Producer(api)
-        , m_consumer(consumer)
-    {
-    }
+    FuzzProducer(FuzzApi& api, AnsweringConsumer& consumer) : Producer(api), m_consumer(consumer) {}
     bool route = true;
 
     Gesture::Consumer* Route(const Gesture&) override { return route ? &m_consumer : nullptr; }
@@ -103,8 +100,7 @@ private:
     AnsweringConsumer& m_consumer;
 };
 
-template <typename T>
-T read(const std::uint8_t* at)
+template <typename T> T read(const std::uint8_t* at)
 {
     T value;
     std::memcpy(&value, at, sizeof(T));
@@ -128,7 +124,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             std::uint8_t record[4];
             std::memcpy(record, m + 7, 4);
             if (producer.notify(record))
-                std::abort();  // a notify always goes on to the default handling
+                std::abort(); // a notify always goes on to the default handling
         } else {
             api.next.flags = read<std::uint32_t>(m + 1);
             api.next.id = m[5];

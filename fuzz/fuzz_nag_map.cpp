@@ -19,7 +19,8 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    const auto config = NagConfig::fromJson(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
+    const auto config =
+        NagConfig::fromJson(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
     if (!config)
         return 0;
     for (const QString& mode : {AppMode::Free(), AppMode::Trial(), AppMode::Licensed(), AppMode::AnyMode()}) {

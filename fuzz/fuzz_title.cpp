@@ -22,7 +22,8 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     Property property;
-    PropertySerializer::Deserialize(property, DataInputString::Create(std::string(reinterpret_cast<const char*>(data), size)), true);
+    PropertySerializer::Deserialize(
+        property, DataInputString::Create(std::string(reinterpret_cast<const char*>(data), size)), true);
     property.ChildExists("en_US");
 
     const std::string written = PropertySerializer::Serialize(property);

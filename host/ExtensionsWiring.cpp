@@ -54,7 +54,8 @@ ExtensionsWiring::ExtensionsWiring(Application& application, ILifetimeManager& l
     const auto gateway = application.GetExternalStimulusGateway();
     const auto launchType = application.GetLaunchTypeProcessor();
 
-    d->add("ApplicationRegistryUpdater", [&]() { return std::make_unique<ApplicationRegistryUpdater>(product); });
+    d->add("ApplicationRegistryUpdater",
+           [&]() { return std::make_unique<ApplicationRegistryUpdater>(product); });
     d->add("InstallerUpdater", [&]() { return std::make_unique<InstallerUpdater>(product); });
     d->add("AutoUpdateRequester", [&]() {
         auto requester = std::make_unique<AutoUpdateRequester>(customization, product);

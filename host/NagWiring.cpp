@@ -58,7 +58,8 @@ QCommandLineOption handOffTimeoutOption()
 QCommandLineOption dimmingOption()
 {
     return {QStringLiteral("nag-dimming"),
-            QStringLiteral("Dim the window behind nags with NAME: color, shadow or gif."), QStringLiteral("NAME")};
+            QStringLiteral("Dim the window behind nags with NAME: color, shadow or gif."),
+            QStringLiteral("NAME")};
 }
 QCommandLineOption notificationOption()
 {
@@ -67,7 +68,8 @@ QCommandLineOption notificationOption()
 QCommandLineOption startNagDelayOption()
 {
     return {QStringLiteral("start-nag-delay"),
-            QStringLiteral("Show the nag of the start MS milliseconds after the start (800)."), QStringLiteral("MS")};
+            QStringLiteral("Show the nag of the start MS milliseconds after the start (800)."),
+            QStringLiteral("MS")};
 }
 QCommandLineOption noStartNagOption()
 {
@@ -78,10 +80,7 @@ QCommandLineOption noStartNagOption()
 class HostNagsSettings : public WebConfig::DefaultNagsSettings
 {
 public:
-    explicit HostNagsSettings(QString dimming)
-        : m_dimming(std::move(dimming))
-    {
-    }
+    explicit HostNagsSettings(QString dimming) : m_dimming(std::move(dimming)) {}
     // The sample nags publish fingerprints; the host reports how each one rendered ("NAG_HASH").
     bool sendNagHashEvent() const override { return true; }
     std::string nagDimmingName() const override
@@ -130,9 +129,11 @@ public:
         // The actions hold the opener weakly; the tracking decorator keeps it from now on.
         linksOpener = NagScreen::fromLinksOpener(links);
         manager->SetActionStrategy(std::make_shared<NagScreen::DefaultActions>(
-            links, linksOpener, application->GetCustomizationManager(), application->get<IInternetConnectionChecker>(),
-            application->get<Networking::IHttpClient>(), application->GetMailSettingsManager()));
-        NagScreen::setupNagScreenEventHandler(*application, Tracking::ApplicationTrackerFactory::getApplicationTracker());
+            links, linksOpener, application->GetCustomizationManager(),
+            application->get<IInternetConnectionChecker>(), application->get<Networking::IHttpClient>(),
+            application->GetMailSettingsManager()));
+        NagScreen::setupNagScreenEventHandler(*application,
+                                              Tracking::ApplicationTrackerFactory::getApplicationTracker());
     }
 };
 

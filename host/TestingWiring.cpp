@@ -27,10 +27,7 @@ public:
     std::shared_ptr<ConnectionTest> connection = std::make_shared<ConnectionTest>();
 };
 
-TestingWiring::TestingWiring()
-    : d(std::make_unique<Impl>())
-{
-}
+TestingWiring::TestingWiring() : d(std::make_unique<Impl>()) {}
 
 TestingWiring::~TestingWiring() = default;
 
@@ -80,11 +77,13 @@ QString TestingWiring::outputSummary(Application& application) const
         const QString root = QDir(dir.isEmpty() ? data : dir).filePath(QStringLiteral("NagScreenshots"));
         summary += QStringLiteral("Nag pictures and web nag URLs: %1\nNag hashes: %2\n")
                        .arg(QDir::toNativeSeparators(root),
-                            QDir::toNativeSeparators(root + QLatin1Char('/') + module + QStringLiteral("/NagHash.md")));
+                            QDir::toNativeSeparators(root + QLatin1Char('/') + module +
+                                                     QStringLiteral("/NagHash.md")));
     }
     if (parser.isSet(QStringLiteral("test-dump-urls")) || parser.isSet(QStringLiteral("test-open-urls")))
         summary += QStringLiteral("URL dump: %1\n")
-                       .arg(QDir::toNativeSeparators(data + QLatin1Char('/') + module + QStringLiteral("-url-dump.csv")));
+                       .arg(QDir::toNativeSeparators(data + QLatin1Char('/') + module +
+                                                     QStringLiteral("-url-dump.csv")));
     if (parser.isSet(QStringLiteral("test-log-urls")))
         summary += QStringLiteral("Opened URLs: %1\n").arg(parser.value(QStringLiteral("test-log-urls")));
     return summary;

@@ -15,7 +15,8 @@ class TestingWiring
 {
 public:
     /// Null, with the reason on standard error, when the test options contradict each other.
-    static std::unique_ptr<TestingWiring> create(const std::shared_ptr<Ostrel::App::ILifetimeManager>& lifetime);
+    static std::unique_ptr<TestingWiring>
+    create(const std::shared_ptr<Ostrel::App::ILifetimeManager>& lifetime);
     ~TestingWiring();
     TestingWiring(const TestingWiring&) = delete;
     TestingWiring& operator=(const TestingWiring&) = delete;

@@ -62,7 +62,8 @@ private:
     static void send(const std::string& event)
     {
         if (const auto tracker = Tracking::ApplicationTrackerFactory::getApplicationTracker())
-            tracker->sendEvent(event, {{"VERSION", Util::QStringToUtf8(QCoreApplication::applicationVersion())}});
+            tracker->sendEvent(event,
+                               {{"VERSION", Util::QStringToUtf8(QCoreApplication::applicationVersion())}});
     }
 };
 
@@ -75,7 +76,8 @@ QString startLogFile(const CustomizationManager& customization)
                            QLatin1Char('/') + Util::Utf8ToQString(customization.GetApplicationName()) +
                            QStringLiteral("/logs");
     if (!Core::UserOnlyFiles::makeFolder(folder)) {
-        LOG(WARNING) << "Cannot create the log folder " << Util::QStringToUtf8(folder) << ", logging to standard error";
+        LOG(WARNING) << "Cannot create the log folder " << Util::QStringToUtf8(folder)
+                     << ", logging to standard error";
         FLAGS_logtostderr = true;
         return QStringLiteral("<standard error>");
     }
@@ -131,7 +133,8 @@ int main(int argc, char** argv)
     Application app(argc, argv, lifetime);
     Util::InstallQtMessageRouting();
     // Without a display there is no OpenGL for the nags' Qt Quick scenes: draw them in software.
-    if (QGuiApplication::platformName() == QLatin1String("offscreen") && !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+    if (QGuiApplication::platformName() == QLatin1String("offscreen") &&
+        !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     // The shell's test options act from here on (the SSL choice before any URL exists).
     const auto testing = TestingWiring::create(lifetime);
@@ -146,10 +149,11 @@ int main(int argc, char** argv)
                                        QStringLiteral("Quit by itself MS milliseconds after the start."),
                                        QStringLiteral("MS"));
     parser.addOption(quitAfter);
-    const QCommandLineOption holdStart(QStringLiteral("hold-start"),
-                                       QStringLiteral("Wait MS milliseconds before the start, as a slow start-up "
-                                                      "would; the splash stays up meanwhile."),
-                                       QStringLiteral("MS"));
+    const QCommandLineOption holdStart(
+        QStringLiteral("hold-start"),
+        QStringLiteral("Wait MS milliseconds before the start, as a slow start-up "
+                       "would; the splash stays up meanwhile."),
+        QStringLiteral("MS"));
     parser.addOption(holdStart);
     NagWiring::addOptions(parser);
     // The shell's own options (test options) are read by the shell; unknown ones are not an error here.
@@ -165,7 +169,8 @@ int main(int argc, char** argv)
         *value = parser.value(option).toInt(&valid);
         if (valid && *value >= 0)
             return true;
-        std::fprintf(stderr, "ostrel-host: --%s takes a number of milliseconds\n", qPrintable(option.names().first()));
+        std::fprintf(stderr, "ostrel-host: --%s takes a number of milliseconds\n",
+                     qPrintable(option.names().first()));
         return false;
     };
     int quitAfterMs = -1;
@@ -204,8 +209,8 @@ int main(int argc, char** argv)
     app.set<IUserSettingsManager>(std::make_shared<UserSettingsManager>());
     app.set<IMailSettingsManager>(std::make_shared<MailSettingsManager>());
     app.set<IHardwareInfo>(std::make_shared<HardwareInfo>());
-    app.SetLaunchTypeProcessor(
-        std::make_shared<LaunchTypeProcessor>(productSettings, installerSettings, QCoreApplication::arguments()));
+    app.SetLaunchTypeProcessor(std::make_shared<LaunchTypeProcessor>(productSettings, installerSettings,
+                                                                     QCoreApplication::arguments()));
     stage("components");
 
     // 4. Nags and test options join here as the product adds them.
@@ -223,8 +228,9 @@ int main(int argc, char** argv)
     // browser through the URL handler that the browser installs for the process.
     PreferredBrowser preferredBrowser(app.GetLookAndFeel(), productSettings, installerSettings);
     app.SetLinksManager(std::make_shared<LinksManager>(
-        customization, app.get<IHardwareInfo>(), app.GetLookAndFeel(), app.GetMailSettingsManager(), productSettings,
-        app.get<IUserSettingsManager>(), app.GetLaunchTypeProcessor(), nullptr, installerSettings));
+        customization, app.get<IHardwareInfo>(), app.GetLookAndFeel(), app.GetMailSettingsManager(),
+        productSettings, app.get<IUserSettingsManager>(), app.GetLaunchTypeProcessor(), nullptr,
+        installerSettings));
     // The start-up extensions run once, right after the start, and live for the whole run.
     ExtensionsWiring extensions(app, *lifetime);
     testing->connect(app);

@@ -13,7 +13,7 @@ packages=(
   xvfb xauth imagemagick
   fonts-dejavu-core fonts-dejavu-extra
   fonts-noto-cjk  # Japanese, Korean, simplified and traditional Chinese: without it those locales draw boxes
-  clang-14 libclang-rt-14-dev
+  clang-14 libclang-rt-14-dev clang-format-14
   g++-mingw-w64-x86-64-posix
   wine64 doctest-dev
   locales tzdata

@@ -6,6 +6,7 @@
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
+"$root/scripts/bootstrap.sh"
 format=${CLANG_FORMAT:-clang-format-14}
 command -v "$format" >/dev/null || { echo "format: $format not found; run scripts/bootstrap.sh" >&2; exit 2; }
 mapfile -t files < <(git ls-files '*.cpp' '*.h')

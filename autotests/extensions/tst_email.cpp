@@ -79,15 +79,16 @@ class TestEmail : public QObject
     std::shared_ptr<LinksManager> realLinks(const QString& collectTemplate)
     {
         m_customization->custom["Links/COLLECT_EMAIL_URL"] = collectTemplate.toStdString();
-        return std::make_shared<LinksManager>(m_customization, std::make_shared<FakeHardware>(),
-                                              std::make_shared<FakeLookAndFeel>(), m_mail,
-                                              std::make_shared<MemoryProductSettings>(),
-                                              std::make_shared<MemoryUserSettings>(), m_launchType, nullptr, nullptr);
+        return std::make_shared<LinksManager>(
+            m_customization, std::make_shared<FakeHardware>(), std::make_shared<FakeLookAndFeel>(), m_mail,
+            std::make_shared<MemoryProductSettings>(), std::make_shared<MemoryUserSettings>(), m_launchType,
+            nullptr, nullptr);
     }
 
-    std::unique_ptr<EmailCollector> collector(const std::shared_ptr<ILinksManager>& links,
-                                              const std::shared_ptr<Networking::IHttpClient>& http,
-                                              const std::shared_ptr<ExternalStimulus::IGateway>& gateway = nullptr)
+    std::unique_ptr<EmailCollector>
+    collector(const std::shared_ptr<ILinksManager>& links,
+              const std::shared_ptr<Networking::IHttpClient>& http,
+              const std::shared_ptr<ExternalStimulus::IGateway>& gateway = nullptr)
     {
         return std::make_unique<EmailCollector>(m_customization, links, m_mail, m_launchType, gateway, http);
     }
@@ -145,13 +146,16 @@ private slots:
         QTest::addColumn<bool>("sent");
         QTest::addColumn<QString>("confirmed");
 
-        QTest::newRow("subscribes") << UserInput{QStringLiteral("Ann Lee"), QStringLiteral("ann+x@example.com"), true, false, {}} << true
-                                    << "1";
-        QTest::newRow("invalid address first")
-            << UserInput{QStringLiteral("Bo"), QStringLiteral("bo@@example"), true, false, QStringLiteral("bo@example.org")}
+        QTest::newRow("subscribes")
+            << UserInput{QStringLiteral("Ann Lee"), QStringLiteral("ann+x@example.com"), true, false, {}}
             << true << "1";
-        QTest::newRow("no consent") << UserInput{QStringLiteral("Cy"), QStringLiteral("cy@example.com"), false, false, {}} << false
-                                    << "0";
+        QTest::newRow("invalid address first")
+            << UserInput{QStringLiteral("Bo"), QStringLiteral("bo@@example"), true, false,
+                         QStringLiteral("bo@example.org")}
+            << true << "1";
+        QTest::newRow("no consent")
+            << UserInput{QStringLiteral("Cy"), QStringLiteral("cy@example.com"), false, false, {}} << false
+            << "0";
         QTest::newRow("not now") << UserInput{{}, {}, true, true, {}} << false << "0";
     }
 
@@ -163,7 +167,8 @@ private slots:
         QFETCH(QString, confirmed);
         RecordingHttpServer server;
         const auto links =
-            realLinks(server.base() + QStringLiteral("/subscribe/?asrc=&-TAIL_WITH_ARGS--AMP-name=-NAME--AMP-email=-EMAIL-"));
+            realLinks(server.base() +
+                      QStringLiteral("/subscribe/?asrc=&-TAIL_WITH_ARGS--AMP-name=-NAME--AMP-email=-EMAIL-"));
         const auto subject = collector(links, std::make_shared<Networking::HttpClient>());
 
         bool refused = false;
@@ -233,8 +238,9 @@ private slots:
         m_mail->values = {{"UserName", "Old"}, {"UserEmail", "old@example.com"}};
         EmailSender sender(links, http, m_mail);
         int calls = 0;
-        sender.SendEmail({{"UserName", "New"}, {"UserEmail", "new@example.com"}, {"isConfirmed", "1"}, {"IsRegUser", "1"}},
-                         [&calls](bool ok, const std::string&) { calls += ok ? 1 : 100; });
+        sender.SendEmail(
+            {{"UserName", "New"}, {"UserEmail", "new@example.com"}, {"isConfirmed", "1"}, {"IsRegUser", "1"}},
+            [&calls](bool ok, const std::string&) { calls += ok ? 1 : 100; });
         QCOMPARE(http->requests.size(), size_t(1));
         QVERIFY(!m_mail->Has("IsRegUser"));
         QCOMPARE(m_mail->values["UserEmail"], std::string("new@example.com"));
@@ -344,9 +350,11 @@ private slots:
     void nullArguments()
     {
         const auto links = std::make_shared<RecordingLinks>();
-        QVERIFY_EXCEPTION_THROWN(EmailCollector(nullptr, links, m_mail, m_launchType, nullptr, nullptr), std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(EmailCollector(m_customization, nullptr, m_mail, m_launchType, nullptr, nullptr),
+        QVERIFY_EXCEPTION_THROWN(EmailCollector(nullptr, links, m_mail, m_launchType, nullptr, nullptr),
                                  std::logic_error);
+        QVERIFY_EXCEPTION_THROWN(
+            EmailCollector(m_customization, nullptr, m_mail, m_launchType, nullptr, nullptr),
+            std::logic_error);
         QVERIFY_EXCEPTION_THROWN(EmailCollector(m_customization, links, m_mail, nullptr, nullptr, nullptr),
                                  std::logic_error);
         QVERIFY(!EmailDialogCreator::Create(nullptr, links, m_customization, nullptr));

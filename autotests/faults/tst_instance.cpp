@@ -102,7 +102,8 @@ private Q_SLOTS:
         HostProcess second(root.filePath(QStringLiteral("second")), runtime);
         // Nothing will answer: a short hand-off keeps the row quick.
         second.start({QStringLiteral("--no-start-nag"), QStringLiteral("--quit-after=0"),
-                      QStringLiteral("--hand-off-timeout=300"), QStringLiteral("--open-nag=") + HostProcess::OwnNag()});
+                      QStringLiteral("--hand-off-timeout=300"),
+                      QStringLiteral("--open-nag=") + HostProcess::OwnNag()});
         QVERIFY2(second.waitForExit(StartMs), qPrintable(second.log()));
         QCOMPARE(second.exitCode(), 0);
         // It went on by itself instead of handing the request to whatever squats there.

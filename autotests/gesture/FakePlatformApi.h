@@ -49,9 +49,9 @@ public:
     std::vector<std::uint32_t> infoSizes;
     std::vector<void*> closed;
 
-    std::map<void*, Info> gestures;  // a handle missing here fails GetGestureInfo
-    Point clientOrigin = {0, 0};     // ScreenToClient subtracts it
-    std::map<void*, void*> parents;  // child window -> parent
+    std::map<void*, Info> gestures; // a handle missing here fails GetGestureInfo
+    Point clientOrigin = {0, 0};    // ScreenToClient subtracts it
+    std::map<void*, void*> parents; // child window -> parent
     std::intptr_t defWindowProcResult = 0;
 
     Message readMessage(void* nativeMessage) override { return *static_cast<Message*>(nativeMessage); }
@@ -87,7 +87,8 @@ public:
                           std::uint32_t entrySize) override
     {
         calls << QStringLiteral("SetGestureConfig");
-        configCalls.push_back({hwnd, reserved, count, entrySize, std::vector<ConfigEntry>(configs, configs + count)});
+        configCalls.push_back(
+            {hwnd, reserved, count, entrySize, std::vector<ConfigEntry>(configs, configs + count)});
         return true;
     }
 

@@ -36,7 +36,10 @@ public:
     void OnGesture(const Gesture::Rotate& g) override { rotates.push_back(g); }
     void OnGesture(const Gesture::Zoom& g) override { zooms.push_back(g); }
     void OnGesture(const Gesture::Pan& g) override { pans.push_back(g); }
-    int WantGesture(const Gesture::PressAndTap& g) override { return ask(QStringLiteral("PressAndTap"), g, pressAndTap); }
+    int WantGesture(const Gesture::PressAndTap& g) override
+    {
+        return ask(QStringLiteral("PressAndTap"), g, pressAndTap);
+    }
     int WantGesture(const Gesture::Tap& g) override { return ask(QStringLiteral("Tap"), g, tap); }
     int WantGesture(const Gesture::Rotate& g) override { return ask(QStringLiteral("Rotate"), g, rotate); }
     int WantGesture(const Gesture::Zoom& g) override { return ask(QStringLiteral("Zoom"), g, zoom); }
@@ -54,10 +57,7 @@ private:
 class TestProducer : public Gesture::Producer
 {
 public:
-    explicit TestProducer(FakePlatformApi& api)
-        : Producer(api)
-    {
-    }
+    explicit TestProducer(FakePlatformApi& api) : Producer(api) {}
 
     Gesture::Consumer* consumer = nullptr;
     std::vector<Gesture> routed;
@@ -168,9 +168,11 @@ private Q_SLOTS:
         // 0xFFFB is -5: a screen left of the primary one.
         producer.notify(static_cast<std::int16_t>(0xFFFB), 300);
 
-        QCOMPARE(api.calls, QStringList({QStringLiteral("ScreenToClient(-5,300)"), QStringLiteral("SetGestureConfig")}));
-        QCOMPARE(consumer.asked, QStringList({QStringLiteral("Zoom"), QStringLiteral("Pan"), QStringLiteral("Rotate"),
-                                              QStringLiteral("Tap"), QStringLiteral("PressAndTap")}));
+        QCOMPARE(api.calls,
+                 QStringList({QStringLiteral("ScreenToClient(-5,300)"), QStringLiteral("SetGestureConfig")}));
+        QCOMPARE(consumer.asked,
+                 QStringList({QStringLiteral("Zoom"), QStringLiteral("Pan"), QStringLiteral("Rotate"),
+                              QStringLiteral("Tap"), QStringLiteral("PressAndTap")}));
         QCOMPARE(producer.routed.size(), size_t(1));
         for (const Gesture& at : consumer.askedAt) {
             QCOMPARE(at.x, -105);
@@ -267,8 +269,8 @@ private Q_SLOTS:
         api.gestures[Handle] = Info{0, 0, GID_PAN, 50, 60, 0};
         producer.gesture();
         // inertia x = -3 (0xFFFD), y = 2, distance 7; location -2 (0xFFFE) widened.
-        api.gestures[Handle] = Info{0, GF_BEGIN, GID_PAN, static_cast<std::int16_t>(0xFFFE), 40,
-                                    0x0002FFFD00000007ull};
+        api.gestures[Handle] =
+            Info{0, GF_BEGIN, GID_PAN, static_cast<std::int16_t>(0xFFFE), 40, 0x0002FFFD00000007ull};
         producer.gesture();
         api.gestures[Handle] = Info{0, GF_INERTIA | GF_END, GID_PAN, 70, 80, 0x8000000000000000ull};
         producer.gesture();

@@ -57,7 +57,8 @@ long send(Gesture::Router& router, std::uint32_t message, void* hwnd, void* lPar
 
 void notifyAt(Gesture::Router& router, const QPoint& screen, void* hwnd = TopWindow)
 {
-    FakePlatformApi::NotifyRecord record = {static_cast<std::int16_t>(screen.x()), static_cast<std::int16_t>(screen.y())};
+    FakePlatformApi::NotifyRecord record = {static_cast<std::int16_t>(screen.x()),
+                                            static_cast<std::int16_t>(screen.y())};
     bool handled = true;
     send(router, WM_GESTURENOTIFY, hwnd, &record, &handled);
     QVERIFY(!handled);
@@ -173,7 +174,8 @@ private Q_SLOTS:
         bool handled = false;
         QCOMPARE(send(router, WM_GESTURE, ChildWindow, Handle, &handled), 42L);
         QVERIFY(handled);
-        QCOMPARE(api.calls, QStringList({QStringLiteral("GetParent"), QStringLiteral("DefWindowProcW(281)")}));
+        QCOMPARE(api.calls,
+                 QStringList({QStringLiteral("GetParent"), QStringLiteral("DefWindowProcW(281)")}));
     }
 
     void messagesLeftAlone_data()

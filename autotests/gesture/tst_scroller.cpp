@@ -138,10 +138,10 @@ private Q_SLOTS:
         Gesture::Consumer& scroller = *new Gesture::Scroller(&area);
 
         scroller.OnGesture(panAt(100, 100, true));
-        scroller.OnGesture(panAt(90, 130));   // finger left and down: content right, view up
+        scroller.OnGesture(panAt(90, 130)); // finger left and down: content right, view up
         QCOMPARE(area.horizontalScrollBar()->value(), 10);
         QCOMPARE(area.verticalScrollBar()->value(), 470);
-        scroller.OnGesture(panAt(200, 0));    // clamped by the bars
+        scroller.OnGesture(panAt(200, 0)); // clamped by the bars
         QCOMPARE(area.horizontalScrollBar()->value(), 0);
         QCOMPARE(area.verticalScrollBar()->value(), 600);
         scroller.OnGesture(panAt(200, 0, false, true));
@@ -172,7 +172,9 @@ private Q_SLOTS:
         QTest::touchEvent(viewport, screen).stationary(0).press(1, QPoint(90, 90), viewport);
         QTest::touchEvent(viewport, screen).move(0, QPoint(60, 40), viewport).stationary(1);
         QCOMPARE(scene.bar()->value(), 100);
-        QTest::touchEvent(viewport, screen).release(0, QPoint(60, 40), viewport).release(1, QPoint(90, 90), viewport);
+        QTest::touchEvent(viewport, screen)
+            .release(0, QPoint(60, 40), viewport)
+            .release(1, QPoint(90, 90), viewport);
         qApp->removeEventFilter(&filter);
     }
 

@@ -122,7 +122,8 @@ int holdLock(char** argv)
 int dpi()
 {
     App::HighDpiFix();
-    std::cout << "highDpiScaling=" << QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling) << std::endl;
+    std::cout << "highDpiScaling=" << QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling)
+              << std::endl;
     return 0;
 }
 

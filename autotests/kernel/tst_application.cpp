@@ -36,10 +36,7 @@ using MemorySettings = Ostrel::Test::MemoryProductSettings;
 class FixedLaunchType : public ILaunchTypeProcessor
 {
 public:
-    explicit FixedLaunchType(int type)
-        : m_type(type)
-    {
-    }
+    explicit FixedLaunchType(int type) : m_type(type) {}
     int GetLaunchType() const override { return m_type; }
 
 private:
@@ -77,15 +74,13 @@ class ApplicationTest : public QObject
 {
     Q_OBJECT
 public:
-    explicit ApplicationTest(std::shared_ptr<ILifetimeManager> lifetime)
-        : m_lifetime(std::move(lifetime))
-    {
-    }
+    explicit ApplicationTest(std::shared_ptr<ILifetimeManager> lifetime) : m_lifetime(std::move(lifetime)) {}
 
 private Q_SLOTS:
     void constructionSetsTheKernelComponents()
     {
-        QCOMPARE(QString::fromLatin1(app().metaObject()->className()), QStringLiteral("Ostrel::App::Application"));
+        QCOMPARE(QString::fromLatin1(app().metaObject()->className()),
+                 QStringLiteral("Ostrel::App::Application"));
         QCOMPARE(app().get<ILifetimeManager>(), m_lifetime);
         QVERIFY(!QApplication::isEffectEnabled(Qt::UI_AnimateCombo));
 
@@ -150,7 +145,7 @@ private Q_SLOTS:
     void partnerOverrideIsUsedOnce_data()
     {
         QTest::addColumn<int>("launchType");
-        QTest::addColumn<QString>("override"); // "-" for no override key
+        QTest::addColumn<QString>("override");        // "-" for no override key
         QTest::addColumn<QString>("expectedPartner"); // "-" for untouched
         QTest::addColumn<bool>("overrideRemains");
 
@@ -240,10 +235,7 @@ private Q_SLOTS:
         // shell's own callbacks: the splash is already dismissed and released.
         struct Late : LifetimeObserver
         {
-            void onStart() override
-            {
-                splashAtStart = app().GetSplash() != nullptr;
-            }
+            void onStart() override { splashAtStart = app().GetSplash() != nullptr; }
             bool splashAtStart = true;
         } late;
         m_lifetime->RegisterEventHandler(&late);
@@ -288,7 +280,8 @@ private Q_SLOTS:
         QTest::mousePress(plain, Qt::RightButton);
         QTest::mouseRelease(plain, Qt::RightButton);
         QTest::mousePress(&orphan, Qt::MiddleButton);
-        QMouseEvent actionPress(QEvent::MouseButtonPress, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent actionPress(QEvent::MouseButtonPress, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton,
+                                Qt::NoModifier);
         QCoreApplication::sendEvent(&action, &actionPress);
         QShortcutEvent actionShortcut(action.shortcut(), 1);
         QCoreApplication::sendEvent(&action, &actionShortcut);

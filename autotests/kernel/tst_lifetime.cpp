@@ -27,9 +27,7 @@ class JournalObserver : public LifetimeObserver
 {
 public:
     JournalObserver(QStringList* journal, QString name, bool veto = false)
-        : m_journal(journal)
-        , m_name(std::move(name))
-        , m_veto(veto)
+        : m_journal(journal), m_name(std::move(name)), m_veto(veto)
     {
     }
     void onStart() override
@@ -147,7 +145,8 @@ private Q_SLOTS:
         });
         QVERIFY(!manager.tryToRestart(Interactive, "/no/such/icon.png", "--flag"));
         QCOMPARE(title, QStringLiteral("Attention"));
-        QCOMPARE(text, QStringLiteral("<b>This will restart the application.</b><br>Do you want to continue?"));
+        QCOMPARE(text,
+                 QStringLiteral("<b>This will restart the application.</b><br>Do you want to continue?"));
         QCOMPARE(buttons, QMessageBox::Ok | QMessageBox::Cancel);
         QVERIFY(journal.isEmpty()); // nobody was even asked to quit
         QCOMPARE(manager.quits, 0);

@@ -49,26 +49,30 @@ class MacMenuTest : public QObject
 private Q_SLOTS:
     void wiring_data()
     {
-        QTest::addColumn<QStringList>("appActions");   // empty: no application menu at all
+        QTest::addColumn<QStringList>("appActions"); // empty: no application menu at all
         QTest::addColumn<QStringList>("windowActions");
-        QTest::addColumn<QStringList>("expectedShortcuts");  // "action=shortcut", in the app menu
+        QTest::addColumn<QStringList>("expectedShortcuts"); // "action=shortcut", in the app menu
 
         const QString quit = QKeySequence(QKeySequence::Quit).toString();
         const QString prefs = QKeySequence(QKeySequence::Preferences).toString();
         const QStringList window = {QStringLiteral("actionMinimize"), QStringLiteral("actionZoom"),
                                     QStringLiteral("actionBring_all_to_Front")};
-        QTest::newRow("full menus")
-            << QStringList{QStringLiteral("action_Hide"), QStringLiteral("action_Hide_Others"),
-                           QStringLiteral("action_Preferences"), QStringLiteral("action_Quit")}
-            << window
-            << QStringList{QStringLiteral("action_Hide=Ctrl+H"), QStringLiteral("action_Hide_Others=Ctrl+Alt+H"),
-                           QStringLiteral("action_Preferences=") + prefs, QStringLiteral("action_Quit=") + quit};
+        QTest::newRow("full menus") << QStringList{QStringLiteral("action_Hide"),
+                                                   QStringLiteral("action_Hide_Others"),
+                                                   QStringLiteral("action_Preferences"),
+                                                   QStringLiteral("action_Quit")}
+                                    << window
+                                    << QStringList{QStringLiteral("action_Hide=Ctrl+H"),
+                                                   QStringLiteral("action_Hide_Others=Ctrl+Alt+H"),
+                                                   QStringLiteral("action_Preferences=") + prefs,
+                                                   QStringLiteral("action_Quit=") + quit};
         QTest::newRow("missing action skipped")
             << QStringList{QStringLiteral("action_Hide"), QStringLiteral("action_Exit")} << window
             << QStringList{QStringLiteral("action_Hide=Ctrl+H"), QStringLiteral("action_Exit=") + quit};
         QTest::newRow("last named action quits")
             << QStringList{QStringLiteral("action_Hide"), QStringLiteral("action_Preferences")} << window
-            << QStringList{QStringLiteral("action_Hide=Ctrl+H"), QStringLiteral("action_Preferences=") + quit};
+            << QStringList{QStringLiteral("action_Hide=Ctrl+H"),
+                           QStringLiteral("action_Preferences=") + quit};
         QTest::newRow("no application menu") << QStringList() << window << QStringList();
         QTest::newRow("window menu short of one")
             << QStringList{QStringLiteral("action_Quit")} << QStringList{QStringLiteral("actionZoom")}
@@ -100,7 +104,8 @@ private Q_SLOTS:
 
         QStringList shortcuts;
         for (const QString& name : qAsConst(appActions))
-            shortcuts << name + QLatin1Char('=') + actionOf(bar, QStringLiteral("menuMacOSMenu"), name)->shortcut().toString();
+            shortcuts << name + QLatin1Char('=') +
+                             actionOf(bar, QStringLiteral("menuMacOSMenu"), name)->shortcut().toString();
         QCOMPARE(shortcuts, expectedShortcuts);
 
         // The window actions are wired whatever happened to the application menu.
@@ -109,8 +114,8 @@ private Q_SLOTS:
             QVERIFY(action->shortcut().isEmpty());
             action->trigger();
         }
-        const int checked = windowActions.contains(QStringLiteral("actionMinimize"))
-            + windowActions.contains(QStringLiteral("actionZoom"));
+        const int checked = windowActions.contains(QStringLiteral("actionMinimize")) +
+                            windowActions.contains(QStringLiteral("actionZoom"));
         QCOMPARE(asked, checked);
     }
 

@@ -18,9 +18,12 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("expected");
         QTest::newRow("none") << QString() << QStringList();
         QTest::newRow("plain") << QStringLiteral("--minimized --launch-type=3")
-                               << QStringList{QStringLiteral("--minimized"), QStringLiteral("--launch-type=3")};
-        QTest::newRow("quoted blank") << QStringLiteral("\"a b\" c") << QStringList{QStringLiteral("a b"), QStringLiteral("c")};
-        QTest::newRow("non-ASCII") << QStringLiteral("--name=Grüße") << QStringList{QStringLiteral("--name=Grüße")};
+                               << QStringList{QStringLiteral("--minimized"),
+                                              QStringLiteral("--launch-type=3")};
+        QTest::newRow("quoted blank")
+            << QStringLiteral("\"a b\" c") << QStringList{QStringLiteral("a b"), QStringLiteral("c")};
+        QTest::newRow("non-ASCII") << QStringLiteral("--name=Grüße")
+                                   << QStringList{QStringLiteral("--name=Grüße")};
     }
 
     void restartStartsTheProgramWithItsArguments()
@@ -38,8 +41,8 @@ private Q_SLOTS:
         QCOMPARE(result.values.value(QStringLiteral("restarted")), QStringLiteral("1"));
 
         // The new process runs detached; wait for what it recorded.
-        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(recordPath).size() > 0 || (expected.isEmpty() && QFile::exists(recordPath)),
-                                 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            QFileInfo(recordPath).size() > 0 || (expected.isEmpty() && QFile::exists(recordPath)), 20000);
         QFile record(recordPath);
         QVERIFY(record.open(QIODevice::ReadOnly));
         QStringList got = QString::fromUtf8(record.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -59,7 +62,8 @@ private Q_SLOTS:
         QVERIFY2(header >= 0, qPrintable(log));
         const QString details = log.mid(header);
         QVERIFY2(details.contains(QLatin1String("\n\tReceiver: ")), qPrintable(details));
-        QVERIFY(details.contains(QLatin1String("Thrower\n\tEvent class: QMetaCallEvent. Event type: QEvent::MetaCall\n")));
+        QVERIFY(details.contains(
+            QLatin1String("Thrower\n\tEvent class: QMetaCallEvent. Event type: QEvent::MetaCall\n")));
         QVERIFY(details.contains(QLatin1String("\tException details: ")));
         QVERIFY(details.contains(QLatin1String("slot exploded")));
 

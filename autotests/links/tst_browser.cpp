@@ -19,8 +19,8 @@ using namespace Ostrel::Test;
 
 namespace {
 
-const QString MuiCache =
-    QStringLiteral("HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache");
+const QString MuiCache = QStringLiteral(
+    "HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache");
 const QString UserClients = QStringLiteral("HKEY_CURRENT_USER\\SOFTWARE\\Clients\\StartMenuInternet");
 const QString MachineClients = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Clients\\StartMenuInternet");
 
@@ -44,8 +44,7 @@ public:
     QString defaultValue(const QString& key) const override { return lookup(defaults, key); }
 
 private:
-    template <class T>
-    static T lookup(const std::map<QString, T>& map, const QString& key)
+    template <class T> static T lookup(const std::map<QString, T>& map, const QString& key)
     {
         const auto found = map.find(key);
         return found == map.end() ? T() : found->second;
@@ -101,7 +100,8 @@ private slots:
     {
         const QString running = executable(QStringLiteral("run/chrome.exe"));
         registry->processes[QStringLiteral("chrome.exe")] = running;
-        registry->values[MuiCache] << executable(QStringLiteral("mui/chrome.exe")) + QStringLiteral(".FriendlyAppName");
+        registry->values[MuiCache] << executable(QStringLiteral("mui/chrome.exe")) +
+                                          QStringLiteral(".FriendlyAppName");
         QCOMPARE(find(QStringLiteral("chrome.exe")), running);
         // A running process whose file is gone doesn't count.
         QFile::remove(running);
@@ -111,7 +111,8 @@ private slots:
     void noNameNoSearch()
     {
         registry->processes[QStringLiteral("chrome.exe")] = executable(QStringLiteral("chrome.exe"));
-        registry->registerBrowser(UserClients, QStringLiteral("Chrome"), executable(QStringLiteral("chrome.exe")));
+        registry->registerBrowser(UserClients, QStringLiteral("Chrome"),
+                                  executable(QStringLiteral("chrome.exe")));
         QCOMPARE(find(QString()), QString());
     }
 
@@ -120,12 +121,15 @@ private slots:
         QTest::addColumn<QStringList>("valueNames");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("suffix behind the .exe") << QStringList{QStringLiteral("a/firefox.exe.FriendlyAppName")}
-                                                << QStringLiteral("firefox.exe") << QStringLiteral("a/firefox.exe");
-        QTest::newRow("cut at the last .exe") << QStringList{QStringLiteral("b.exe.dir/firefox.exe.ApplicationCompany")}
-                                              << QStringLiteral("firefox.exe") << QStringLiteral("b.exe.dir/firefox.exe");
-        QTest::newRow("file name folded, name not") << QStringList{QStringLiteral("c/FireFox.exe.FriendlyAppName")}
-                                                    << QStringLiteral("firefox.exe") << QStringLiteral("c/FireFox.exe");
+        QTest::newRow("suffix behind the .exe")
+            << QStringList{QStringLiteral("a/firefox.exe.FriendlyAppName")} << QStringLiteral("firefox.exe")
+            << QStringLiteral("a/firefox.exe");
+        QTest::newRow("cut at the last .exe")
+            << QStringList{QStringLiteral("b.exe.dir/firefox.exe.ApplicationCompany")}
+            << QStringLiteral("firefox.exe") << QStringLiteral("b.exe.dir/firefox.exe");
+        QTest::newRow("file name folded, name not")
+            << QStringList{QStringLiteral("c/FireFox.exe.FriendlyAppName")} << QStringLiteral("firefox.exe")
+            << QStringLiteral("c/FireFox.exe");
         QTest::newRow("name in capitals") << QStringList{QStringLiteral("a/firefox.exe.FriendlyAppName")}
                                           << QStringLiteral("Firefox.exe") << QString();
         QTest::newRow(".EXE is no .exe") << QStringList{QStringLiteral("d/firefox.EXE.FriendlyAppName")}
@@ -153,8 +157,8 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("found");
         QTest::newRow("quoted path") << QStringLiteral("\"%1\"") << QStringLiteral("msedge.exe") << true;
-        QTest::newRow("arguments behind the path") << QStringLiteral("\"%1\" --single-argument %%1")
-                                                   << QStringLiteral("msedge.exe") << false;
+        QTest::newRow("arguments behind the path")
+            << QStringLiteral("\"%1\" --single-argument %%1") << QStringLiteral("msedge.exe") << false;
         QTest::newRow("name in capitals") << QStringLiteral("%1") << QStringLiteral("MSEdge.EXE") << true;
         QTest::newRow("other browser") << QStringLiteral("%1") << QStringLiteral("chrome.exe") << false;
     }
@@ -172,8 +176,10 @@ private slots:
     void currentUserBeforeMachine()
     {
         const QString mine = executable(QStringLiteral("user/firefox.exe"));
-        registry->registerBrowser(MachineClients, QStringLiteral("FIREFOX.EXE"), executable(QStringLiteral("m/firefox.exe")));
-        registry->registerBrowser(UserClients, QStringLiteral("Other"), executable(QStringLiteral("u/opera.exe")));
+        registry->registerBrowser(MachineClients, QStringLiteral("FIREFOX.EXE"),
+                                  executable(QStringLiteral("m/firefox.exe")));
+        registry->registerBrowser(UserClients, QStringLiteral("Other"),
+                                  executable(QStringLiteral("u/opera.exe")));
         registry->registerBrowser(UserClients, QStringLiteral("FIREFOX.EXE"), mine);
         QCOMPARE(find(QStringLiteral("firefox.exe")), mine);
     }
@@ -185,13 +191,16 @@ private slots:
         QTest::addColumn<QString>("expectedPath");
         QTest::addColumn<QString>("code");
         QTest::addColumn<QString>("browser");
-        QTest::newRow("stored path, no name") << QString() << true << QStringLiteral("stored/chrome.exe") << QString()
-                                              << QString();
-        QTest::newRow("stored path gone") << QString() << false << QString() << QString() << QStringLiteral("SYSTEM");
-        QTest::newRow("name searches anew") << QStringLiteral("chrome.exe") << true << QStringLiteral("reg/chrome.exe")
-                                            << QStringLiteral("C") << QStringLiteral("C");
-        QTest::newRow("capitals find it, code empty") << QStringLiteral("CHROME.EXE") << true
-                                                      << QStringLiteral("reg/chrome.exe") << QString() << QString();
+        QTest::newRow("stored path, no name")
+            << QString() << true << QStringLiteral("stored/chrome.exe") << QString() << QString();
+        QTest::newRow("stored path gone")
+            << QString() << false << QString() << QString() << QStringLiteral("SYSTEM");
+        QTest::newRow("name searches anew")
+            << QStringLiteral("chrome.exe") << true << QStringLiteral("reg/chrome.exe") << QStringLiteral("C")
+            << QStringLiteral("C");
+        QTest::newRow("capitals find it, code empty")
+            << QStringLiteral("CHROME.EXE") << true << QStringLiteral("reg/chrome.exe") << QString()
+            << QString();
     }
 
     void initStoresAndReports()
@@ -205,7 +214,8 @@ private slots:
         if (!storedExists)
             QFile::remove(stored);
         registry->processes[QStringLiteral("other.exe")] = executable(QStringLiteral("other.exe"));
-        registry->registerBrowser(UserClients, QStringLiteral("Google Chrome"), executable(QStringLiteral("reg/chrome.exe")));
+        registry->registerBrowser(UserClients, QStringLiteral("Google Chrome"),
+                                  executable(QStringLiteral("reg/chrome.exe")));
         settings->SetString("PreferredBrowser", "old value");
 
         Browser preferred(settings, registry);
@@ -230,7 +240,8 @@ private slots:
         Browser preferred(settings, registry);
         preferred.SetContextCallback([&]() {
             ++asked;
-            return AbstractPreferredBrowser::PreferredBrowserContext{QString(), QStringLiteral("firefox.exe"), QString()};
+            return AbstractPreferredBrowser::PreferredBrowserContext{QString(), QStringLiteral("firefox.exe"),
+                                                                     QString()};
         });
         QCOMPARE(preferred.Name(), QString()); // no search before the first Path()
         QCOMPARE(preferred.Path(), first);
@@ -249,8 +260,9 @@ private slots:
     void userAgents()
     {
         Browser preferred(nullptr, registry);
-        const QString yandex = QStringLiteral("Mozilla/5.0 (Windows NT 6.1; WOW64) AppleWebKit/537.36 (KHTML, like Gecko) "
-                                              "Chrome/30.0.1599.12785 YaBrowser/13.12.1599.12785 Safari/537.36");
+        const QString yandex =
+            QStringLiteral("Mozilla/5.0 (Windows NT 6.1; WOW64) AppleWebKit/537.36 (KHTML, like Gecko) "
+                           "Chrome/30.0.1599.12785 YaBrowser/13.12.1599.12785 Safari/537.36");
         QCOMPARE(preferred.UserAgent(), yandex);
         preferred.Init({QString(), QString(), executable(QStringLiteral("x/firefox.exe"))});
         QVERIFY(preferred.UserAgent().endsWith(QLatin1String("Firefox/40.1")));
@@ -262,11 +274,13 @@ private slots:
 
     void withoutCallbackNothingIsSearched()
     {
-        registry->registerBrowser(UserClients, QStringLiteral("A"), executable(QStringLiteral("firefox.exe")));
+        registry->registerBrowser(UserClients, QStringLiteral("A"),
+                                  executable(QStringLiteral("firefox.exe")));
         Tracking::ApplicationTrackerFactory::setApplicationTracker(nullptr);
         Browser preferred(nullptr, registry);
         QCOMPARE(preferred.Path(), QString());
-        preferred.Init({QString(), QStringLiteral("firefox.exe"), QString()}); // no tracker, no settings: fine
+        preferred.Init(
+            {QString(), QStringLiteral("firefox.exe"), QString()}); // no tracker, no settings: fine
         QCOMPARE(preferred.Name(), QStringLiteral("firefox.exe"));
     }
 };

@@ -33,7 +33,8 @@ class TestHttp : public QObject
     std::shared_ptr<MemoryUserSettings> user;
     std::shared_ptr<FakeHardware> hardware;
 
-    Networking::HttpResponse sendAndWait(Networking::HttpClient& client, const Networking::HttpRequest& request)
+    Networking::HttpResponse sendAndWait(Networking::HttpClient& client,
+                                         const Networking::HttpRequest& request)
     {
         Networking::HttpResponse result;
         bool done = false;
@@ -45,7 +46,6 @@ class TestHttp : public QObject
         [&]() { QTRY_VERIFY_WITH_TIMEOUT(done, 10000); }();
         return result;
     }
-
 
     // "/body?size=N" sends N bytes, "/endless" sends until the client hangs up, "/announced"
     // announces more than any cap and sends nothing, "/redirect?to=X" sends 302 to X, "/final"
@@ -73,7 +73,8 @@ class TestHttp : public QObject
         });
         server.setReplyFor("/announced", "HTTP/1.1 200 OK\r\nContent-Length: 1000000000\r\n"
                                          "Connection: close\r\n\r\n");
-        server.setHandler("/redirect", [query](const RecordingHttpServer::Request& request, QTcpSocket& socket) {
+        server.setHandler("/redirect", [query](const RecordingHttpServer::Request& request,
+                                               QTcpSocket& socket) {
             socket.write("HTTP/1.1 302 Found\r\nLocation: " +
                          query(request).queryItemValue(QStringLiteral("to"), QUrl::FullyDecoded).toUtf8() +
                          "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
@@ -160,11 +161,13 @@ private slots:
         QTest::addColumn<QByteArray>("right");
         QTest::addColumn<bool>("less");
         QTest::addColumn<bool>("greater");
-        QTest::newRow("same but case") << QByteArray("Content-Type") << QByteArray("content-TYPE") << false << false;
+        QTest::newRow("same but case")
+            << QByteArray("Content-Type") << QByteArray("content-TYPE") << false << false;
         QTest::newRow("prefix") << QByteArray("Accept") << QByteArray("accept-language") << true << false;
         QTest::newRow("letters fold before comparing") << QByteArray("a") << QByteArray("B") << true << false;
         QTest::newRow("non-letters as they are") << QByteArray("[") << QByteArray("a") << true << false;
-        QTest::newRow("bytes above ASCII") << QByteArray("\xC3\xA9") << QByteArray("\xC3\x89") << false << true;
+        QTest::newRow("bytes above ASCII")
+            << QByteArray("\xC3\xA9") << QByteArray("\xC3\x89") << false << true;
     }
 
     void caseInsensitiveOrder()
@@ -281,9 +284,10 @@ private slots:
         to.replace(QLatin1String("%BASE%"), server.base());
         Networking::HttpClient client;
         Networking::HttpRequest request;
-        request.url = server.url(QStringLiteral("/redirect?to=") + QString::fromLatin1(QUrl::toPercentEncoding(to)))
-                          .toString()
-                          .toStdString();
+        request.url =
+            server.url(QStringLiteral("/redirect?to=") + QString::fromLatin1(QUrl::toPercentEncoding(to)))
+                .toString()
+                .toStdString();
         LogCapture log;
         const auto response = sendAndWait(client, request);
         QStringList paths;

@@ -92,8 +92,9 @@ private slots:
                  qPrintable(install));
         installer->SetBool("AdditionalsInstalled", true);
         QVERIFY(links->GetUrl(THANK_FOR_REINSTALL_URL).endsWith(QLatin1String("&isToolbarInstalled=true")));
-        QCOMPARE(links->GetUrl(CHANGELOG_URL),
-                 QStringLiteral("https://static.ostrel.com/configs/changelog/capdesk/win/x86_64/pt_BR/changelog"));
+        QCOMPARE(
+            links->GetUrl(CHANGELOG_URL),
+            QStringLiteral("https://static.ostrel.com/configs/changelog/capdesk/win/x86_64/pt_BR/changelog"));
         // An empty value still takes the macro's place.
         mail->values.clear();
         QVERIFY(links->GetUrl(COLLECT_EMAIL_URL).endsWith(QLatin1String("&name=&email=")));
@@ -106,30 +107,33 @@ private slots:
         QTest::addColumn<QString>("expected");
 
         using P = Parameters;
-        QTest::newRow("path placeholder as given")
-            << QStringLiteral("https://cloud.ostrel.com/%1") << P{{QStringLiteral("%1"), QStringLiteral("v2/files")}}
-            << QStringLiteral("https://cloud.ostrel.com/v2/files");
+        QTest::newRow("path placeholder as given") << QStringLiteral("https://cloud.ostrel.com/%1")
+                                                   << P{{QStringLiteral("%1"), QStringLiteral("v2/files")}}
+                                                   << QStringLiteral("https://cloud.ostrel.com/v2/files");
         QTest::newRow("query placeholders encoded, by bare number too")
             << QStringLiteral("https://h/f?email=%1&feedback=%2")
-            << P{{QStringLiteral("1"), QStringLiteral("a&b@c")}, {QStringLiteral("%2"), QStringLiteral("50% ok")}}
+            << P{{QStringLiteral("1"), QStringLiteral("a&b@c")},
+                 {QStringLiteral("%2"), QStringLiteral("50% ok")}}
             << QStringLiteral("https://h/f?email=a%26b%40c&feedback=50%25%20ok");
-        QTest::newRow("values are not filled again")
-            << QStringLiteral("https://h/?a=%1&b=%2")
-            << P{{QStringLiteral("%1"), QStringLiteral("%2")}, {QStringLiteral("%2"), QStringLiteral("-LANG-")}}
-            << QStringLiteral("https://h/?a=%252&b=-LANG-");
-        QTest::newRow("missing placeholder stays") << QStringLiteral("https://h/%1/%2")
-                                                   << P{{QStringLiteral("%2"), QStringLiteral("x")}}
-                                                   << QStringLiteral("https://h/%1/x");
-        QTest::newRow("macro given by the caller") << QStringLiteral("https://h/-LANG-/x")
-                                                   << P{{QStringLiteral("-LANG-"), QStringLiteral("de")}}
-                                                   << QStringLiteral("https://h/de/x");
-        QTest::newRow("dashes of a path are no macro") << QStringLiteral("https://h/learn-more-HOT-keys-/") << P{}
-                                                       << QStringLiteral("https://h/learn-more-HOT-keys-/");
+        QTest::newRow("values are not filled again") << QStringLiteral("https://h/?a=%1&b=%2")
+                                                     << P{{QStringLiteral("%1"), QStringLiteral("%2")},
+                                                          {QStringLiteral("%2"), QStringLiteral("-LANG-")}}
+                                                     << QStringLiteral("https://h/?a=%252&b=-LANG-");
+        QTest::newRow("missing placeholder stays")
+            << QStringLiteral("https://h/%1/%2") << P{{QStringLiteral("%2"), QStringLiteral("x")}}
+            << QStringLiteral("https://h/%1/x");
+        QTest::newRow("macro given by the caller")
+            << QStringLiteral("https://h/-LANG-/x") << P{{QStringLiteral("-LANG-"), QStringLiteral("de")}}
+            << QStringLiteral("https://h/de/x");
+        QTest::newRow("dashes of a path are no macro")
+            << QStringLiteral("https://h/learn-more-HOT-keys-/") << P{}
+            << QStringLiteral("https://h/learn-more-HOT-keys-/");
         QTest::newRow("other keys join the query")
             << QStringLiteral("https://h/p?x=1") << P{{QStringLiteral("nag id"), QStringLiteral("7&8")}}
             << QStringLiteral("https://h/p?x=1&nag%20id=7%268");
-        QTest::newRow("and open one") << QStringLiteral("https://h/p") << P{{QStringLiteral("k"), QStringLiteral("v")}}
-                                      << QStringLiteral("https://h/p?k=v");
+        QTest::newRow("and open one")
+            << QStringLiteral("https://h/p") << P{{QStringLiteral("k"), QStringLiteral("v")}}
+            << QStringLiteral("https://h/p?k=v");
     }
 
     void generateFillsPlaceholders()
@@ -145,8 +149,10 @@ private slots:
         customization->custom["Hosts/links"] = "go.partner.example";
         customization->custom["Hosts/content"] = "cdn.partner.example:8443";
         customization->custom["Links/CUSTOM_ABOUT_URL"] = "https://partner.example/about?l=-LANG-";
-        QVERIFY(links->GetUrl(HELP_URL_menu).startsWith(QLatin1String("https://go.partner.example/help/?asrc=menu&")));
-        QVERIFY(links->GetUrl(SUPPORT_DEVICE_LIST_URL).startsWith(QLatin1String("https://cdn.partner.example:8443/")));
+        QVERIFY(links->GetUrl(HELP_URL_menu)
+                    .startsWith(QLatin1String("https://go.partner.example/help/?asrc=menu&")));
+        QVERIFY(links->GetUrl(SUPPORT_DEVICE_LIST_URL)
+                    .startsWith(QLatin1String("https://cdn.partner.example:8443/")));
         QCOMPARE(links->GetUrl(CUSTOM_ABOUT_URL), QStringLiteral("https://partner.example/about?l=pt_BR"));
         // Outside services keep their hosts, and the other empty templates stay empty.
         QCOMPARE(links->GetUrl(YOUTUBE_VIDEO_URL), QStringLiteral("https://www.youtube.com/watch?v=%1"));

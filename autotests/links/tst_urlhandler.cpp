@@ -40,9 +40,10 @@ class TestUrlHandler : public QObject
     // The offscreen platform has no browser of its own and says so.
     static void expectSystemBrowser(const char* url)
     {
-        QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral(
-                                               "This plugin does not support QPlatformServices::openUrl() for '%1'.")
-                                                                        .arg(QLatin1String(url))));
+        QTest::ignoreMessage(
+            QtWarningMsg,
+            qPrintable(QStringLiteral("This plugin does not support QPlatformServices::openUrl() for '%1'.")
+                           .arg(QLatin1String(url))));
     }
 
     // The argument lists the stub got so far, waiting for `count` of them.
@@ -108,7 +109,8 @@ private slots:
     void opensInThePreferredBrowser()
     {
         // Characters a shell would act on arrive untouched: the URL is one argument of a process.
-        const QString url = QStringLiteral("https://link.ostrel.com/faq/?asrc=menu&q=$(touch%20x);%60y%60&z=%C3%A9");
+        const QString url =
+            QStringLiteral("https://link.ostrel.com/faq/?asrc=menu&q=$(touch%20x);%60y%60&z=%C3%A9");
         QVERIFY(QDesktopServices::openUrl(QUrl(url)));
         QCOMPARE(starts(1), (QList<QStringList>{{QUrl(url).toString()}}));
         tracker->clear(); // the PREFERRED_BROWSER of the first search

@@ -28,7 +28,8 @@ int main(int argc, char** argv)
 
     if (mode == QLatin1String("confirm") && args.size() == 4) {
         ConfirmationAlertBox box(settings, Ostrel::Util::AlertBox::Question, QStringLiteral("Probe"),
-                                 QStringLiteral("Continue?"), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+                                 QStringLiteral("Continue?"),
+                                 QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         box.SetConfirmationId(args.at(3));
         bool shown = false;
         QTimer closer;

@@ -99,8 +99,9 @@ private slots:
     {
         m_boxLeftOpen = false;
         m_boxGuard.start(10000);
-        m_file = m_dir.filePath(QStringLiteral("%1.ini").arg(QString::fromLatin1(QTest::currentTestFunction()) +
-                                                             QString::fromLatin1(QTest::currentDataTag())));
+        m_file =
+            m_dir.filePath(QStringLiteral("%1.ini").arg(QString::fromLatin1(QTest::currentTestFunction()) +
+                                                        QString::fromLatin1(QTest::currentDataTag())));
         m_file.replace(QLatin1Char(' '), QLatin1Char('_'));
         QFile::remove(m_file);
         m_settings = std::make_shared<ApplicationSettingsManager>(m_file);
@@ -121,11 +122,12 @@ private slots:
         QTest::newRow("ticked no (no role)") << no << true << false << 0 << -1 << true << no;
         QTest::newRow("unticked yes") << yes << false << false << 0 << -1 << false << 0;
         QTest::newRow("ticked cancel is not remembered") << cancel << true << false << 0 << -1 << false << 0;
-        QTest::newRow("ticked cancel with remember on reject") << cancel << true << true << 0 << -1 << true << cancel;
+        QTest::newRow("ticked cancel with remember on reject")
+            << cancel << true << true << 0 << -1 << true << cancel;
         QTest::newRow("remember only yes, no clicked") << no << true << false << yes << -1 << false << 0;
         QTest::newRow("remember only yes, yes clicked") << yes << true << false << yes << -1 << true << yes;
-        QTest::newRow("forced answer is stored") << yes << true << false << 0 << int(QMessageBox::Ok) << true
-                                                 << int(QMessageBox::Ok);
+        QTest::newRow("forced answer is stored")
+            << yes << true << false << 0 << int(QMessageBox::Ok) << true << int(QMessageBox::Ok);
     }
 
     void confirmation()
@@ -139,7 +141,8 @@ private slots:
         QFETCH(int, storedAnswer);
         {
             ConfirmationAlertBox box(m_settings, Util::AlertBox::Question, QStringLiteral("Title"),
-                                     QStringLiteral("Continue?"), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+                                     QStringLiteral("Continue?"),
+                                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
             box.SetConfirmationId(QStringLiteral("Question_1"));
             QVERIFY(!box.IsDontConfirm());
             QCOMPARE(box.checkBox()->objectName(), QStringLiteral("dontConfirmCheckBox"));
@@ -147,13 +150,15 @@ private slots:
             box.SetRememberOnly(QMessageBox::StandardButtons(rememberOnly));
             if (forced >= 0)
                 box.SetForceSaveAnswer(forced);
-            whenShown([&](QMessageBox* shown) { tickAndClick(shown, QMessageBox::StandardButton(clicked), tick); });
+            whenShown(
+                [&](QMessageBox* shown) { tickAndClick(shown, QMessageBox::StandardButton(clicked), tick); });
             QCOMPARE(int(box.Exec()), clicked);
         }
         QCOMPARE(m_settings->GetBool("confirm/Question_1_dont_confirm", false), remembered);
 
         const auto readBack = probe({QStringLiteral("confirm"), m_file, QStringLiteral("Question_1")});
-        QCOMPARE(readBack.value(QStringLiteral("shown")), remembered ? QStringLiteral("0") : QStringLiteral("1"));
+        QCOMPARE(readBack.value(QStringLiteral("shown")),
+                 remembered ? QStringLiteral("0") : QStringLiteral("1"));
         if (remembered)
             QCOMPARE(readBack.value(QStringLiteral("answer")).toInt(), storedAnswer);
     }
@@ -189,8 +194,9 @@ private slots:
             QVERIFY(box.IsDontConfirm());
         }
         QCOMPARE(m_settings->GetInt("confirm/Q_answer", 0), int(QMessageBox::Yes));
-        QCOMPARE(probe({QStringLiteral("confirm"), m_file, QStringLiteral("Q")}).value(QStringLiteral("shown")),
-                 QStringLiteral("1"));
+        QCOMPARE(
+            probe({QStringLiteral("confirm"), m_file, QStringLiteral("Q")}).value(QStringLiteral("shown")),
+            QStringLiteral("1"));
 
         ConfirmationAlertBox box(m_settings, Util::AlertBox::Question, QString(), QString(),
                                  QMessageBox::Yes | QMessageBox::No);
@@ -282,7 +288,8 @@ private slots:
 
         qApp->setProperty("linkStyle", QStringLiteral("color: #58e47b"));
         QVERIFY(GetGPUUnsupportedDriverMessage(QStringLiteral("https://d/%2"))
-                    .endsWith(QStringLiteral("<a href=\"https://d/%2\" style=\"color: #58e47b\">Download Driver</a>")));
+                    .endsWith(QStringLiteral(
+                        "<a href=\"https://d/%2\" style=\"color: #58e47b\">Download Driver</a>")));
         qApp->setProperty("linkStyle", QVariant());
     }
 };

@@ -96,7 +96,8 @@ private slots:
         m_handler->SetLocaleList({"en_US", "de_DE"});
         m_handler->Refresh();
         m_handler->Refresh();
-        QCOMPARE(texts(*m_locales), (QStringList{QStringLiteral("English"), QStringLiteral("Deutsch"), QStringLiteral("--")}));
+        QCOMPARE(texts(*m_locales),
+                 (QStringList{QStringLiteral("English"), QStringLiteral("Deutsch"), QStringLiteral("--")}));
         QCOMPARE(checked(*m_locales), QStringLiteral("en_US"));
     }
 
@@ -142,7 +143,8 @@ private slots:
         QVERIFY2(menu.actions().isEmpty(), "nothing selected yet, nothing built");
         late.SelectLocale("de_DE");
         late.SetLocaleMenu(&menu);
-        QCOMPARE(texts(menu), (QStringList{QStringLiteral("English"), QStringLiteral("Deutsch"), QStringLiteral("--")}));
+        QCOMPARE(texts(menu),
+                 (QStringList{QStringLiteral("English"), QStringLiteral("Deutsch"), QStringLiteral("--")}));
         QCOMPARE(checked(menu), QStringLiteral("de_DE"));
     }
 };

@@ -24,9 +24,8 @@ class SystemLanguages : public LookAndFeelManager
 public:
     SystemLanguages(const QString& root, QStringList languages, std::string defaultLocale = "unknown",
                     std::list<std::string> baseNames = {})
-        : LookAndFeelManager(Core::ioPath(root), "theme.title", baseNames, {})
-        , m_languages(std::move(languages))
-        , m_default(std::move(defaultLocale))
+        : LookAndFeelManager(Core::ioPath(root), "theme.title", baseNames, {}),
+          m_languages(std::move(languages)), m_default(std::move(defaultLocale))
     {
     }
     std::string GetDefaultLocale() const override { return m_default; }
@@ -73,50 +72,54 @@ private slots:
 
         const QString unknown = QStringLiteral("unknown");
         const QStringList enDe{QStringLiteral("en_US"), QStringLiteral("de_DE")};
-        QTest::newRow("installed wish beats the system") << QStringList{QStringLiteral("en-US")} << enDe << unknown
-                                                         << QStringLiteral("de_DE") << QStringLiteral("de_DE");
-        QTest::newRow("unknown asks the system") << QStringList{QStringLiteral("de-DE")} << enDe << unknown << unknown
-                                                 << QStringLiteral("de_DE");
-        QTest::newRow("empty asks the system") << QStringList{QStringLiteral("de-DE")} << enDe << unknown << QString()
-                                               << QStringLiteral("de_DE");
+        QTest::newRow("installed wish beats the system")
+            << QStringList{QStringLiteral("en-US")} << enDe << unknown << QStringLiteral("de_DE")
+            << QStringLiteral("de_DE");
+        QTest::newRow("unknown asks the system")
+            << QStringList{QStringLiteral("de-DE")} << enDe << unknown << unknown << QStringLiteral("de_DE");
+        QTest::newRow("empty asks the system") << QStringList{QStringLiteral("de-DE")} << enDe << unknown
+                                               << QString() << QStringLiteral("de_DE");
         QTest::newRow("uninstalled wish asks the system, not the default")
-            << QStringList{QStringLiteral("ru-RU")} << QStringList{QStringLiteral("en_US"), QStringLiteral("ru_RU")}
-            << QStringLiteral("en_US") << QStringLiteral("fr_FR") << QStringLiteral("ru_RU");
+            << QStringList{QStringLiteral("ru-RU")}
+            << QStringList{QStringLiteral("en_US"), QStringLiteral("ru_RU")} << QStringLiteral("en_US")
+            << QStringLiteral("fr_FR") << QStringLiteral("ru_RU");
         QTest::newRow("portugal counts as brazil")
             << QStringList{QStringLiteral("pt-PT"), QStringLiteral("en-US")}
             << QStringList{QStringLiteral("en_US"), QStringLiteral("pt_BR")} << unknown << QString()
             << QStringLiteral("pt_BR");
-        QTest::newRow("hong kong chinese is traditional") << QStringList{QStringLiteral("zh-HK")}
-                                                          << QStringList{QStringLiteral("zh_TW")} << unknown << QString()
-                                                          << QStringLiteral("zh_TW");
+        QTest::newRow("hong kong chinese is traditional")
+            << QStringList{QStringLiteral("zh-HK")} << QStringList{QStringLiteral("zh_TW")} << unknown
+            << QString() << QStringLiteral("zh_TW");
         QTest::newRow("mainland chinese does not take traditional")
             << QStringList{QStringLiteral("zh-CN"), QStringLiteral("de-DE")}
             << QStringList{QStringLiteral("zh_TW"), QStringLiteral("de_DE")} << unknown << QString()
             << QStringLiteral("de_DE");
-        QTest::newRow("simplified script tag is mainland") << QStringList{QStringLiteral("zh-Hans-CN")}
-                                                           << QStringList{QStringLiteral("zh_TW"), QStringLiteral("zh_CN")}
-                                                           << unknown << QString() << QStringLiteral("zh_CN");
+        QTest::newRow("simplified script tag is mainland")
+            << QStringList{QStringLiteral("zh-Hans-CN")}
+            << QStringList{QStringLiteral("zh_TW"), QStringLiteral("zh_CN")} << unknown << QString()
+            << QStringLiteral("zh_CN");
         QTest::newRow("taiwan chinese") << QStringList{QStringLiteral("zh-Hant-TW")}
-                                        << QStringList{QStringLiteral("zh_CN"), QStringLiteral("zh_TW")} << unknown
-                                        << QString() << QStringLiteral("zh_TW");
+                                        << QStringList{QStringLiteral("zh_CN"), QStringLiteral("zh_TW")}
+                                        << unknown << QString() << QStringLiteral("zh_TW");
         QTest::newRow("candidate is a strict prefix of the installed name")
-            << QStringList{QStringLiteral("de")} << QStringList{QStringLiteral("en_US"), QStringLiteral("de_DE_formal")}
-            << unknown << QString() << QStringLiteral("de_DE_formal");
+            << QStringList{QStringLiteral("de")}
+            << QStringList{QStringLiteral("en_US"), QStringLiteral("de_DE_formal")} << unknown << QString()
+            << QStringLiteral("de_DE_formal");
         QTest::newRow("english of another country matches nothing, next candidate wins")
-            << QStringList{QStringLiteral("en-GB"), QStringLiteral("de-AT"), QStringLiteral("de-DE")} << enDe << unknown
-            << QString() << QStringLiteral("de_DE");
+            << QStringList{QStringLiteral("en-GB"), QStringLiteral("de-AT"), QStringLiteral("de-DE")} << enDe
+            << unknown << QString() << QStringLiteral("de_DE");
         QTest::newRow("nothing matches: en_US even if not installed")
-            << QStringList{QStringLiteral("fr-FR")} << QStringList{QStringLiteral("de_DE")} << unknown << QString()
-            << QStringLiteral("en_US");
-        QTest::newRow("nothing matches: the product's default") << QStringList{QStringLiteral("fr-FR")}
-                                                               << QStringList{QStringLiteral("de_DE")}
-                                                               << QStringLiteral("de_DE") << QString()
-                                                               << QStringLiteral("de_DE");
-        QTest::newRow("no locale installed") << QStringList{QStringLiteral("de-DE")} << QStringList{} << unknown
-                                             << QStringLiteral("de_DE") << QStringLiteral("en_US");
+            << QStringList{QStringLiteral("fr-FR")} << QStringList{QStringLiteral("de_DE")} << unknown
+            << QString() << QStringLiteral("en_US");
+        QTest::newRow("nothing matches: the product's default")
+            << QStringList{QStringLiteral("fr-FR")} << QStringList{QStringLiteral("de_DE")}
+            << QStringLiteral("de_DE") << QString() << QStringLiteral("de_DE");
+        QTest::newRow("no locale installed") << QStringList{QStringLiteral("de-DE")} << QStringList{}
+                                             << unknown << QStringLiteral("de_DE") << QStringLiteral("en_US");
         QTest::newRow("the word unknown is never installed")
-            << QStringList{QStringLiteral("de-DE")} << QStringList{QStringLiteral("unknown"), QStringLiteral("de_DE")}
-            << unknown << unknown << QStringLiteral("de_DE");
+            << QStringList{QStringLiteral("de-DE")}
+            << QStringList{QStringLiteral("unknown"), QStringLiteral("de_DE")} << unknown << unknown
+            << QStringLiteral("de_DE");
     }
 
     void validation()
@@ -159,7 +162,8 @@ private slots:
         QCOMPARE(dontShowAgain(), QStringLiteral("Больше не показывать"));
         manager.SetLocale("en_US");
         QCOMPARE(dontShowAgain(), QStringLiteral("Don't show this again"));
-        QCOMPARE(counter.locales, (QStringList{QStringLiteral("de_DE"), QStringLiteral("ru_RU"), QStringLiteral("en_US")}));
+        QCOMPARE(counter.locales,
+                 (QStringList{QStringLiteral("de_DE"), QStringLiteral("ru_RU"), QStringLiteral("en_US")}));
         manager.UnregisterObserver(&counter);
     }
 
@@ -203,7 +207,8 @@ private slots:
         QTest::newRow("own language") << QStringLiteral("ru_RU") << QStringLiteral("Русский");
         QTest::newRow("brazilian") << QStringLiteral("pt_BR") << QStringLiteral("Português Brasileiro");
         QTest::newRow("traditional chinese") << QStringLiteral("zh_TW") << QStringLiteral("繁體中文");
-        QTest::newRow("three letters in english") << QStringLiteral("nob") << QStringLiteral("Norwegian Bokmål");
+        QTest::newRow("three letters in english")
+            << QStringLiteral("nob") << QStringLiteral("Norwegian Bokmål");
         QTest::newRow("undetermined is empty") << QStringLiteral("und") << QString();
         QTest::newRow("no row shows the key") << QStringLiteral("sv_SE") << QStringLiteral("sv_SE");
     }

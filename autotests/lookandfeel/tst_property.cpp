@@ -45,8 +45,9 @@ private slots:
         QTest::addColumn<bool>("ok");
         QTest::addColumn<QStringList>("children");
 
-        QTest::newRow("plain and utf-8") << QByteArray("en_US = Dark\nru_RU = Тёмная\n") << true
-                                         << QStringList{QStringLiteral("en_US=Dark"), QStringLiteral("ru_RU=Тёмная")};
+        QTest::newRow("plain and utf-8")
+            << QByteArray("en_US = Dark\nru_RU = Тёмная\n") << true
+            << QStringList{QStringLiteral("en_US=Dark"), QStringLiteral("ru_RU=Тёмная")};
         QTest::newRow("comments, blanks, crlf, bom")
             << QByteArray("\xEF\xBB\xBF# title\r\n\r\n  de_DE =  Dunkel  \r\n") << true
             << QStringList{QStringLiteral("de_DE=Dunkel")};
@@ -55,13 +56,15 @@ private slots:
         QTest::newRow("empty value") << QByteArray("a =\n") << true << QStringList{QStringLiteral("a=")};
         QTest::newRow("empty input") << QByteArray() << true << QStringList{};
         QTest::newRow("broken line keeps the leading part")
-            << QByteArray("a = 1\nthis is no statement\nb = 2\n") << false << QStringList{QStringLiteral("a=1")};
-        QTest::newRow("unterminated quote") << QByteArray("a = 1\nb = \"open\n") << false
-                                            << QStringList{QStringLiteral("a=1")};
+            << QByteArray("a = 1\nthis is no statement\nb = 2\n") << false
+            << QStringList{QStringLiteral("a=1")};
+        QTest::newRow("unterminated quote")
+            << QByteArray("a = 1\nb = \"open\n") << false << QStringList{QStringLiteral("a=1")};
         QTest::newRow("text after closing quote") << QByteArray("a = \"x\" y\n") << false << QStringList{};
-        QTest::newRow("stray closing brace") << QByteArray("a = 1\n}\nb = 2") << false
-                                             << QStringList{QStringLiteral("a=1")};
-        QTest::newRow("unclosed block") << QByteArray("a {\nb = 1\n") << false << QStringList{QStringLiteral("a=")};
+        QTest::newRow("stray closing brace")
+            << QByteArray("a = 1\n}\nb = 2") << false << QStringList{QStringLiteral("a=1")};
+        QTest::newRow("unclosed block")
+            << QByteArray("a {\nb = 1\n") << false << QStringList{QStringLiteral("a=")};
         QTest::newRow("binary garbage") << QByteArray("\x00\x01\xff=\n", 5) << false << QStringList{};
     }
 

@@ -13,8 +13,8 @@
 #include <QFontDatabase>
 #include <QPixmapCache>
 #include <QProcess>
-#include <QResource>
 #include <QRegularExpression>
+#include <QResource>
 #include <QTemporaryDir>
 
 using namespace Ostrel;
@@ -35,8 +35,14 @@ class Recorder : public ILookAndFeelObserver
 {
 public:
     QStringList events;
-    void OnLocaleChanged(const std::string& locale) override { events << QStringLiteral("locale:") + QString::fromStdString(locale); }
-    void OnThemeChanged(const std::string& theme) override { events << QStringLiteral("theme:") + QString::fromStdString(theme); }
+    void OnLocaleChanged(const std::string& locale) override
+    {
+        events << QStringLiteral("locale:") + QString::fromStdString(locale);
+    }
+    void OnThemeChanged(const std::string& theme) override
+    {
+        events << QStringLiteral("theme:") + QString::fromStdString(theme);
+    }
 };
 
 class Upper : public IQssPreprocessor
@@ -143,12 +149,14 @@ private slots:
         QTest::addColumn<QStringList>("expected");
         // all_platforms/all_languages says 11pt and 22pt; the "win" section 10pt; its ru_RU block 20pt.
         QTest::newRow("en_US") << QStringLiteral("en_US")
-                               << QStringList{QStringLiteral("font-size: 10pt;"), QStringLiteral("font-size: 22pt;"),
+                               << QStringList{QStringLiteral("font-size: 10pt;"),
+                                              QStringLiteral("font-size: 22pt;"),
                                               QStringLiteral("font-family: \"DejaVu Sans Condensed\"")};
         QTest::newRow("ru_RU") << QStringLiteral("ru_RU")
-                               << QStringList{QStringLiteral("font-size: 10pt;"), QStringLiteral("font-size: 20pt;")};
-        QTest::newRow("ja_JP language block") << QStringLiteral("ja_JP")
-                                              << QStringList{QStringLiteral("font-family: \"DejaVu Sans\"")};
+                               << QStringList{QStringLiteral("font-size: 10pt;"),
+                                              QStringLiteral("font-size: 20pt;")};
+        QTest::newRow("ja_JP language block")
+            << QStringLiteral("ja_JP") << QStringList{QStringLiteral("font-family: \"DejaVu Sans\"")};
     }
 
     void macroBlocksOverrideInOrder()
@@ -233,7 +241,8 @@ private slots:
         manager->Initialize("en_US", "nosuch");
         QCOMPARE(manager->GetCurrentTheme(), std::string("nosuch"));
         QCOMPARE(log.matching("doesn't exist!").size(), size_t(1));
-        QVERIFY(log.matching("doesn't exist!").front().find("/resources/themes/nosuch]") != std::string::npos);
+        QVERIFY(log.matching("doesn't exist!").front().find("/resources/themes/nosuch]") !=
+                std::string::npos);
         QFile product(QStringLiteral(":/productStyle.qss"));
         QVERIFY(product.open(QIODevice::ReadOnly));
         QCOMPARE(sheet(*manager), QString::fromUtf8(product.readAll()) + QStringLiteral("\n\n"));
@@ -271,25 +280,29 @@ private slots:
         QTest::addColumn<QByteArray>("macros");
         QTest::addColumn<QByteArray>("style");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("undefined macro stays") << QByteArray(R"({"all_platforms":{"all_languages":{"a":"1"}}})")
-                                               << QByteArray("x: @a @missing;") << QStringLiteral("x: 1 @missing;\n");
+        QTest::newRow("undefined macro stays")
+            << QByteArray(R"({"all_platforms":{"all_languages":{"a":"1"}}})") << QByteArray("x: @a @missing;")
+            << QStringLiteral("x: 1 @missing;\n");
         QTest::newRow("prefix macro replaces inside the longer one")
-            << QByteArray(R"({"all_platforms":{"all_languages":{"A":"red","AB":"blue"}}})") << QByteArray("c: @AB;")
-            << QStringLiteral("c: redB;\n");
+            << QByteArray(R"({"all_platforms":{"all_languages":{"A":"red","AB":"blue"}}})")
+            << QByteArray("c: @AB;") << QStringLiteral("c: redB;\n");
         QTest::newRow("platform section beats all_platforms")
-            << QByteArray(R"({"win":{"all_languages":{"a":"win"}},"all_platforms":{"all_languages":{"a":"all"}}})")
+            << QByteArray(
+                   R"({"win":{"all_languages":{"a":"win"}},"all_platforms":{"all_languages":{"a":"all"}}})")
             << QByteArray("@a") << QStringLiteral("win\n");
         QTest::newRow("language block beats all_languages")
-            << QByteArray(R"({"all_platforms":{"de_DE":{"a":"de"},"all_languages":{"a":"all"}}})") << QByteArray("@a")
-            << QStringLiteral("de\n");
+            << QByteArray(R"({"all_platforms":{"de_DE":{"a":"de"},"all_languages":{"a":"all"}}})")
+            << QByteArray("@a") << QStringLiteral("de\n");
         QTest::newRow("other language block is ignored")
-            << QByteArray(R"({"all_platforms":{"ru_RU":{"a":"ru"},"all_languages":{"a":"all"}}})") << QByteArray("@a")
-            << QStringLiteral("all\n");
+            << QByteArray(R"({"all_platforms":{"ru_RU":{"a":"ru"},"all_languages":{"a":"all"}}})")
+            << QByteArray("@a") << QStringLiteral("all\n");
         QTest::newRow("numbers and booleans become text")
             << QByteArray(R"({"all_platforms":{"all_languages":{"n":12,"b":true}}})") << QByteArray("@n @b")
             << QStringLiteral("12 true\n");
-        QTest::newRow("macro file not JSON") << QByteArray("{ not json") << QByteArray("@a") << QStringLiteral("@a\n");
-        QTest::newRow("JSON but not an object") << QByteArray("[1,2]") << QByteArray("@a") << QStringLiteral("@a\n");
+        QTest::newRow("macro file not JSON")
+            << QByteArray("{ not json") << QByteArray("@a") << QStringLiteral("@a\n");
+        QTest::newRow("JSON but not an object")
+            << QByteArray("[1,2]") << QByteArray("@a") << QStringLiteral("@a\n");
     }
 
     void applyThemeComposition()
@@ -312,12 +325,15 @@ private slots:
     void laterMacroFileWinsAndMissingFilesAreSoft()
     {
         QTemporaryDir dir;
-        writeFile(dir.filePath(QStringLiteral("1.json")), R"({"all_platforms":{"all_languages":{"a":"first","b":"kept"}}})");
-        writeFile(dir.filePath(QStringLiteral("2.json")), R"({"all_platforms":{"all_languages":{"a":"second"}}})");
+        writeFile(dir.filePath(QStringLiteral("1.json")),
+                  R"({"all_platforms":{"all_languages":{"a":"first","b":"kept"}}})");
+        writeFile(dir.filePath(QStringLiteral("2.json")),
+                  R"({"all_platforms":{"all_languages":{"a":"second"}}})");
         writeFile(dir.filePath(QStringLiteral("s.qss")), "@a @b");
         const auto manager = realTree();
         ILookAndFeelManager::ThemeDescription description;
-        description.macroFiles = {dir.filePath(QStringLiteral("1.json")).toStdString(), "/nonexistent/fonts.json",
+        description.macroFiles = {dir.filePath(QStringLiteral("1.json")).toStdString(),
+                                  "/nonexistent/fonts.json",
                                   dir.filePath(QStringLiteral("2.json")).toStdString()};
         description.styleFiles = {"/nonexistent/a.qss", dir.filePath(QStringLiteral("s.qss")).toStdString(),
                                   "/nonexistent/b.qss"};
@@ -432,7 +448,8 @@ private slots:
         // No title file: the theme does not exist.
         writeFile(themes + QStringLiteral("/untitled/base.rcc"), "whatever");
         // A title file in a broken syntax: the lines before the damage still count.
-        writeFile(themes + QStringLiteral("/broken/theme.title"), "en_US = Broken\nde_DE \"Kaputt\nru_RU = Сломанная\n");
+        writeFile(themes + QStringLiteral("/broken/theme.title"),
+                  "en_US = Broken\nde_DE \"Kaputt\nru_RU = Сломанная\n");
         writeFile(themes + QStringLiteral("/broken/base.rcc"), "this is not a resource file");
         // A dotted name is listed under the part before the dot, and its title looked for there.
         writeFile(themes + QStringLiteral("/dotted.v2/theme.title"), "en_US = Dotted\n");

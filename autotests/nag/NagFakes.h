@@ -24,7 +24,8 @@ namespace Ostrel::Test {
 class FakeContent : public App::NagScreen::AbstractContent
 {
 public:
-    explicit FakeContent(const QString& action = QStringLiteral("app_start"), const QString& mode = QStringLiteral("free"))
+    explicit FakeContent(const QString& action = QStringLiteral("app_start"),
+                         const QString& mode = QStringLiteral("free"))
         : AbstractContent(App::NagScreen::NagContext{action, mode}, App::NagScreen::ContentEnvironment())
     {
         setState(App::NagScreen::ContentState::Ready);
@@ -62,7 +63,8 @@ public:
     QString GetUrl(const QString& key) const override
     {
         const auto found = App::UrlTemplates().find(Util::QStringToUtf8(key));
-        return found == App::UrlTemplates().end() ? QString() : GenerateUrl(Util::Utf8ToQString(found->second), {});
+        return found == App::UrlTemplates().end() ? QString()
+                                                  : GenerateUrl(Util::Utf8ToQString(found->second), {});
     }
     QString GetUrl(App::URLKeys key) const override
     {
@@ -87,11 +89,13 @@ public:
 class RecordingNagOpener : public App::NagScreen::INagLinksOpener
 {
 public:
-    void OpenUrl(const App::NagScreen::AbstractContent&, const QString& url, const QMap<QString, QVariant>&) override
+    void OpenUrl(const App::NagScreen::AbstractContent&, const QString& url,
+                 const QMap<QString, QVariant>&) override
     {
         opened.push_back(url);
     }
-    void OpenUrl(const App::NagScreen::AbstractContent&, App::URLKeys key, const QMap<QString, QVariant>&) override
+    void OpenUrl(const App::NagScreen::AbstractContent&, App::URLKeys key,
+                 const QMap<QString, QVariant>&) override
     {
         opened.push_back(QStringLiteral("key:%1").arg(static_cast<int>(key)));
     }
@@ -111,7 +115,10 @@ class FakeManager : public App::NagScreen::IManager
 public:
     void AddObserver(App::NagScreen::IManagerObserver* observer) override { observers.insert(observer); }
     void RemoveObserver(App::NagScreen::IManagerObserver* observer) override { observers.erase(observer); }
-    void AddNag(const QString&, const QString&, const QUrl&, const std::string&, const std::string&, int) override {}
+    void AddNag(const QString&, const QString&, const QUrl&, const std::string&, const std::string&,
+                int) override
+    {
+    }
     void ReloadNags(const std::string& reason) override { reloads.push_back(reason); }
     void OverrideNagPath(const QString& action, const QString& path) override { overridden[action] = path; }
     bool IsNagAvailable(const QString& action) override { return available.count(action) != 0; }
@@ -122,9 +129,15 @@ public:
         return onShow ? onShow(action) : -1;
     }
     std::shared_ptr<NagHashSetter> GetNagHashSetter() override { return hashSetter; }
-    void SetShowStrategy(const std::shared_ptr<App::NagScreen::IShowStrategy>& strategy) override { showStrategy = strategy; }
+    void SetShowStrategy(const std::shared_ptr<App::NagScreen::IShowStrategy>& strategy) override
+    {
+        showStrategy = strategy;
+    }
     std::shared_ptr<App::NagScreen::IShowStrategy> GetShowStrategy() const override { return showStrategy; }
-    void SetActionStrategy(const std::shared_ptr<App::NagScreen::IActionStrategy>& strategy) override { actions = strategy; }
+    void SetActionStrategy(const std::shared_ptr<App::NagScreen::IActionStrategy>& strategy) override
+    {
+        actions = strategy;
+    }
     std::shared_ptr<App::NagScreen::IActionStrategy> GetActionStrategy() const override { return actions; }
     std::shared_ptr<const App::NagScreen::NagConfig> GetNagConfig() const override { return config; }
     QString GetAppMode() const override { return QStringLiteral("free"); }

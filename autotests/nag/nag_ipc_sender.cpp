@@ -10,5 +10,8 @@ int main(int argc, char** argv)
     QCoreApplication app(argc, argv);
     if (argc < 3)
         return 2;
-    return Ostrel::App::LocalSocketProtocol::SendOpenNag(QString::fromUtf8(argv[1]), QString::fromUtf8(argv[2])) ? 0 : 1;
+    return Ostrel::App::LocalSocketProtocol::SendOpenNag(QString::fromUtf8(argv[1]),
+                                                         QString::fromUtf8(argv[2]))
+               ? 0
+               : 1;
 }

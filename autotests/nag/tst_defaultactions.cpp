@@ -60,13 +60,17 @@ private Q_SLOTS:
     void aClickedLinkGetsTheNagsMacros()
     {
         FakeContent content(QStringLiteral("before_routine"), QStringLiteral("trial"));
-        actions->OpenUrl(content, QUrl(QStringLiteral("https://x.example/p?id=-NAG_ID-&m=-APP_MODE-&a=-APP_ACTION-&-TAIL_WITH_ARGS-"),
-                                       QUrl::TolerantMode),
-                         {});
+        actions->OpenUrl(
+            content,
+            QUrl(QStringLiteral(
+                     "https://x.example/p?id=-NAG_ID-&m=-APP_MODE-&a=-APP_ACTION-&-TAIL_WITH_ARGS-"),
+                 QUrl::TolerantMode),
+            {});
         actions->OpenUrlKey(content, QStringLiteral("FAQ_URL_menu"), {});
         QCOMPARE(opener->opened,
-                 (std::vector<QString>{QStringLiteral("https://x.example/p?id=nag_7&m=trial&a=before_routine&app=probe"),
-                                       QStringLiteral("https://link.ostrel.com/faq/?asrc=menu&app=probe")}));
+                 (std::vector<QString>{
+                     QStringLiteral("https://x.example/p?id=nag_7&m=trial&a=before_routine&app=probe"),
+                     QStringLiteral("https://link.ostrel.com/faq/?asrc=menu&app=probe")}));
     }
 
     void purchaseAndLiveChatPages_data()
@@ -76,16 +80,33 @@ private Q_SLOTS:
         QTest::addColumn<QString>("mode");
         QTest::addColumn<QString>("asrc"); // empty: no page
 
-        QTest::newRow("buy before routine, free") << false << "before_routine" << "free" << "se";
-        QTest::newRow("buy after start, trial") << false << "app_start" << "trial" << "firststart";
-        QTest::newRow("buy on close, free") << false << "app_close" << "free" << "traymenu";
-        QTest::newRow("buy in authorization, any mode")
-            << false << "authorization_window" << "licensed" << "nag_authorization_window_buynow";
-        QTest::newRow("buy on close, licensed") << false << "app_close" << "licensed" << "";
-        QTest::newRow("buy with a mode's case changed") << false << "before_routine" << "Free" << "";
-        QTest::newRow("chat before routine, trial") << true << "before_routine" << "trial" << "menu";
-        QTest::newRow("chat on close, trial") << true << "app_close" << "trial" << "menu";
-        QTest::newRow("chat after start") << true << "app_start" << "trial" << "";
+        QTest::newRow("buy before routine, free") << false << "before_routine"
+                                                  << "free"
+                                                  << "se";
+        QTest::newRow("buy after start, trial") << false << "app_start"
+                                                << "trial"
+                                                << "firststart";
+        QTest::newRow("buy on close, free") << false << "app_close"
+                                            << "free"
+                                            << "traymenu";
+        QTest::newRow("buy in authorization, any mode") << false << "authorization_window"
+                                                        << "licensed"
+                                                        << "nag_authorization_window_buynow";
+        QTest::newRow("buy on close, licensed") << false << "app_close"
+                                                << "licensed"
+                                                << "";
+        QTest::newRow("buy with a mode's case changed") << false << "before_routine"
+                                                        << "Free"
+                                                        << "";
+        QTest::newRow("chat before routine, trial") << true << "before_routine"
+                                                    << "trial"
+                                                    << "menu";
+        QTest::newRow("chat on close, trial") << true << "app_close"
+                                              << "trial"
+                                              << "menu";
+        QTest::newRow("chat after start") << true << "app_start"
+                                          << "trial"
+                                          << "";
     }
 
     void purchaseAndLiveChatPages()
@@ -154,7 +175,8 @@ private Q_SLOTS:
         QFETCH(QString, action);
         FakeContent content;
         LogCapture log;
-        actions->PerformCustomAction(content, action, QVariantMap{{QStringLiteral("email"), QStringLiteral("a@b.example")}});
+        actions->PerformCustomAction(content, action,
+                                     QVariantMap{{QStringLiteral("email"), QStringLiteral("a@b.example")}});
         QCOMPARE(log.matching("Unsupported action: " + Util::QStringToUtf8(action)).size(), std::size_t(1));
         QVERIFY(http->requests.empty());
     }
@@ -175,12 +197,9 @@ private Q_SLOTS:
         const auto params = tracker->events().front().params;
         const std::string error = params.at("ERROR_TEXT");
         QVERIFY(!error.empty());
-        const std::map<std::string, std::string> expected = {{"NAG_ID", "nag_7"},
-                                                             {"NAG_NAME", "Fake nag"},
-                                                             {"NAG_TYPE", "local"},
-                                                             {"NAG_APP_MODE", "trial"},
-                                                             {"NAG_APP_ACTION", "app_close"},
-                                                             {"ERROR_TEXT", error}};
+        const std::map<std::string, std::string> expected = {
+            {"NAG_ID", "nag_7"},       {"NAG_NAME", "Fake nag"},        {"NAG_TYPE", "local"},
+            {"NAG_APP_MODE", "trial"}, {"NAG_APP_ACTION", "app_close"}, {"ERROR_TEXT", error}};
         QCOMPARE(params, expected);
         QCOMPARE(log.matching("CollectEmail request failed, error: " + error).size(), std::size_t(1));
     }

@@ -133,9 +133,9 @@ class DialogStrategyTest : public QObject
 private:
     std::unique_ptr<QuickContent> makeContent(const QString& qml = QStringLiteral("Growing.qml"))
     {
-        auto content = std::make_unique<QuickContent>(NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
-                                                      QUrl(QStringLiteral("qrc:/test/qml/") + qml),
-                                                      ContentEnvironment());
+        auto content = std::make_unique<QuickContent>(
+            NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
+            QUrl(QStringLiteral("qrc:/test/qml/") + qml), ContentEnvironment());
         content->Load();
         return content;
     }
@@ -249,11 +249,26 @@ private Q_SLOTS:
         QTest::addColumn<QString>("settingsParameters");
         QTest::addColumn<QString>("contentName");
         QTest::addColumn<QString>("expectedDimmer");
-        QTest::newRow("color from the settings") << "color" << "color=#80ff0000" << "" << "color";
-        QTest::newRow("shadow from the settings") << "shadow" << "shadowPadding=20" << "" << "shadow";
-        QTest::newRow("gif from the settings") << "gif" << "fileName=:/test/data/pulse.gif" << "" << "gif";
-        QTest::newRow("the nag's own dimmer wins") << "color" << "" << "shadow" << "shadow";
-        QTest::newRow("unknown name: no dimmer") << "curtain" << "" << "" << "";
+        QTest::newRow("color from the settings") << "color"
+                                                 << "color=#80ff0000"
+                                                 << ""
+                                                 << "color";
+        QTest::newRow("shadow from the settings") << "shadow"
+                                                  << "shadowPadding=20"
+                                                  << ""
+                                                  << "shadow";
+        QTest::newRow("gif from the settings") << "gif"
+                                               << "fileName=:/test/data/pulse.gif"
+                                               << ""
+                                               << "gif";
+        QTest::newRow("the nag's own dimmer wins") << "color"
+                                                   << ""
+                                                   << "shadow"
+                                                   << "shadow";
+        QTest::newRow("unknown name: no dimmer") << "curtain"
+                                                 << ""
+                                                 << ""
+                                                 << "";
     }
     void eachDimmerCoversTheParentWhileShownAndLeavesAfter()
     {
@@ -270,7 +285,8 @@ private Q_SLOTS:
         AbstractContent* raw = content.get();
         QStringList shownDimmers;
         whenShown([&](QDialog* dialog) {
-            for (const QString& name : {QStringLiteral("color"), QStringLiteral("shadow"), QStringLiteral("gif")}) {
+            for (const QString& name :
+                 {QStringLiteral("color"), QStringLiteral("shadow"), QStringLiteral("gif")}) {
                 const auto dimmer = provider->Get(name);
                 if (dimmer->isVisible()) {
                     shownDimmers << name;
@@ -283,14 +299,16 @@ private Q_SLOTS:
         });
         strategy.ShowNag(*content);
         QCOMPARE(shownDimmers, expectedDimmer.isEmpty() ? QStringList() : QStringList{expectedDimmer});
-        for (const QString& name : {QStringLiteral("color"), QStringLiteral("shadow"), QStringLiteral("gif")}) {
+        for (const QString& name :
+             {QStringLiteral("color"), QStringLiteral("shadow"), QStringLiteral("gif")}) {
             const auto dimmer = provider->Get(name);
             QVERIFY(!dimmer->isVisible());
             QVERIFY(!dimmer->parentWidget());
             QVERIFY(!dimmer->Target());
         }
         if (expectedDimmer == QLatin1String("color"))
-            QVERIFY(provider->Get(QStringLiteral("color"))->styleSheet().contains(QLatin1String("#80ff0000")));
+            QVERIFY(
+                provider->Get(QStringLiteral("color"))->styleSheet().contains(QLatin1String("#80ff0000")));
     }
 
     void settingsGoneLeavesTheNagsOwnChoice()
@@ -304,7 +322,8 @@ private Q_SLOTS:
         bool anyDimmer = true;
         whenShown([&](QDialog*) {
             anyDimmer = false;
-            for (const QString& name : {QStringLiteral("color"), QStringLiteral("shadow"), QStringLiteral("gif")})
+            for (const QString& name :
+                 {QStringLiteral("color"), QStringLiteral("shadow"), QStringLiteral("gif")})
                 anyDimmer = anyDimmer || strategy.GetDimmingProvider()->Get(name)->isVisible();
             Q_EMIT raw->Finished(1, {});
         });

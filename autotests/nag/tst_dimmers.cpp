@@ -64,14 +64,19 @@ private Q_SLOTS:
         QTest::addColumn<bool>("original");
         QTest::addColumn<QString>("color");
         QTest::newRow("defaults") << Parameters{} << 30 << 250.0 << false << "#ff000000";
-        QTest::newRow("all set") << Parameters{{"shadowPadding", "12"}, {"blurRadius", "40"}, {"originalColor", "true"},
+        QTest::newRow("all set") << Parameters{{"shadowPadding", "12"},
+                                               {"blurRadius", "40"},
+                                               {"originalColor", "true"},
                                                {"color", "#80112233"}}
                                  << 12 << 40.0 << true << "#80112233";
-        QTest::newRow("bad padding is 30") << Parameters{{"shadowPadding", "abc"}} << 30 << 250.0 << false << "#ff000000";
-        QTest::newRow("bad blur leaves it") << Parameters{{"blurRadius", "abc"}} << 30 << 250.0 << false << "#ff000000";
-        QTest::newRow("TRUE is not true") << Parameters{{"originalColor", "TRUE"}} << 30 << 250.0 << false << "#ff000000";
-        QTest::newRow("nonsense colour is black") << Parameters{{"color", "nonsense"}} << 30 << 250.0 << false
-                                                  << "#ff000000";
+        QTest::newRow("bad padding is 30")
+            << Parameters{{"shadowPadding", "abc"}} << 30 << 250.0 << false << "#ff000000";
+        QTest::newRow("bad blur leaves it")
+            << Parameters{{"blurRadius", "abc"}} << 30 << 250.0 << false << "#ff000000";
+        QTest::newRow("TRUE is not true")
+            << Parameters{{"originalColor", "TRUE"}} << 30 << 250.0 << false << "#ff000000";
+        QTest::newRow("nonsense colour is black")
+            << Parameters{{"color", "nonsense"}} << 30 << 250.0 << false << "#ff000000";
     }
     void shadow()
     {
@@ -140,13 +145,15 @@ private Q_SLOTS:
         QTest::addColumn<Parameters>("parameters");
         QTest::addColumn<Parameters>("expected");
         const QUrl local = QUrl::fromLocalFile(QStringLiteral("/x/y/main.qml"));
-        QTest::newRow("relative on a local nag") << local << Parameters{{"fileName", "a.gif"}}
-                                                 << Parameters{{"fileName", "/x/y/a.gif"}};
-        QTest::newRow("absolute stays") << local << Parameters{{"fileName", "/z/a.gif"}}
-                                        << Parameters{{"fileName", "/z/a.gif"}};
-        QTest::newRow("remote nag keeps it") << QUrl(QStringLiteral("https://nags.example/main.qml"))
-                                             << Parameters{{"fileName", "a.gif"}} << Parameters{{"fileName", "a.gif"}};
-        QTest::newRow("other keys untouched") << local << Parameters{{"color", "red"}} << Parameters{{"color", "red"}};
+        QTest::newRow("relative on a local nag")
+            << local << Parameters{{"fileName", "a.gif"}} << Parameters{{"fileName", "/x/y/a.gif"}};
+        QTest::newRow("absolute stays")
+            << local << Parameters{{"fileName", "/z/a.gif"}} << Parameters{{"fileName", "/z/a.gif"}};
+        QTest::newRow("remote nag keeps it")
+            << QUrl(QStringLiteral("https://nags.example/main.qml")) << Parameters{{"fileName", "a.gif"}}
+            << Parameters{{"fileName", "a.gif"}};
+        QTest::newRow("other keys untouched")
+            << local << Parameters{{"color", "red"}} << Parameters{{"color", "red"}};
     }
     void filePathsFollowTheNagsFolder()
     {

@@ -93,13 +93,15 @@ private Q_SLOTS:
         FakeContent content(QStringLiteral("app_start"), QStringLiteral("trial"));
         show->show = [&](AbstractContent& shown) {
             manager->GetActionStrategy()->ShowBuyNow(shown);
-            manager->GetActionStrategy()->OpenUrl(shown, QUrl(QStringLiteral("https://x.example/a?link_id=hero&asrc=nag")), {});
+            manager->GetActionStrategy()->OpenUrl(
+                shown, QUrl(QStringLiteral("https://x.example/a?link_id=hero&asrc=nag")), {});
             manager->GetActionStrategy()->OpenUrl(shown, QUrl(QStringLiteral("https://x.example/b")), {});
             return 1;
         };
         QCOMPARE(manager->GetShowStrategy()->ShowNag(content), 1);
 
-        QCOMPARE(tracker->names(), (std::vector<std::string>{"NAG_SHOW", "NAG_LINK_CLICK", "NAG_LINK_CLICK", "NAG_LINK_CLICK"}));
+        QCOMPARE(tracker->names(), (std::vector<std::string>{"NAG_SHOW", "NAG_LINK_CLICK", "NAG_LINK_CLICK",
+                                                             "NAG_LINK_CLICK"}));
         Params shown = contentParams(content);
         shown["NAG_LINK_URL"] = "qrc:/fake/main.qml";
         shown["NAG_LINK_ID"] = "ShowNag";
@@ -111,7 +113,8 @@ private Q_SLOTS:
         QCOMPARE(buy.at("NAG_LINK_ID"), std::string("ShowBuyNow"));
         QCOMPARE(buy.at("NAG_LINK_URL_KEY"), std::string("BUY_NOW_URL_firststart"));
         QCOMPARE(buy.at("NAG_ASRC"), std::string("firststart"));
-        QCOMPARE(buy.at("NAG_LINK_URL"), std::string("https://link.ostrel.com/buynow/?asrc=firststart&app=probe"));
+        QCOMPARE(buy.at("NAG_LINK_URL"),
+                 std::string("https://link.ostrel.com/buynow/?asrc=firststart&app=probe"));
         const Params ownId = event("NAG_LINK_CLICK", 1);
         QCOMPARE(ownId.at("NAG_LINK_ID"), std::string("hero"));
         QCOMPARE(ownId.at("NAG_ASRC"), std::string("nag"));
@@ -158,9 +161,9 @@ private Q_SLOTS:
         install();
         FakeContent content;
         LogCapture log;
-        manager->GetActionStrategy()->PerformButtonAction(content, QStringLiteral("ok"),
-                                                          QVariantMap{{QStringLiteral("foo"), 1},
-                                                                      {QStringLiteral("list"), QVariantList{1, 2}}});
+        manager->GetActionStrategy()->PerformButtonAction(
+            content, QStringLiteral("ok"),
+            QVariantMap{{QStringLiteral("foo"), 1}, {QStringLiteral("list"), QVariantList{1, 2}}});
         manager->GetActionStrategy()->PerformButtonAction(content, QStringLiteral("later"), QVariant(5));
         manager->GetActionStrategy()->NagClose(content, 0, {{QStringLiteral("why"), QStringLiteral("esc")}});
         manager->GetActionStrategy()->ScreenShown(content, {{QStringLiteral("page"), 2}});
@@ -170,7 +173,9 @@ private Q_SLOTS:
         click["BUTTON_ID"] = "ok";
         QCOMPARE(event("NAG_BUTTON_CLICK"), click);
         QCOMPARE(event("NAG_BUTTON_CLICK", 1).at("BUTTON_ID"), std::string("later"));
-        QCOMPARE(log.matching("Cannot convert QVariant to QMap, wrong parameters in QML function call").size(), std::size_t(1));
+        QCOMPARE(
+            log.matching("Cannot convert QVariant to QMap, wrong parameters in QML function call").size(),
+            std::size_t(1));
         QCOMPARE(event("NAG_CLOSE").at("WHY"), std::string("esc"));
         QCOMPARE(event("NAG_CLOSE").at("NAG_EXIT"), std::string("0"));
         QCOMPARE(event("NAG_SCREEN_SHOW").at("PAGE"), std::string("2"));
@@ -191,7 +196,8 @@ private Q_SLOTS:
         QFETCH(bool, withValues);
         install();
         FakeContent content;
-        manager->GetActionStrategy()->PerformCustomAction(content, action, QVariantMap{{QStringLiteral("email"), QStringLiteral("a@b.example")}});
+        manager->GetActionStrategy()->PerformCustomAction(
+            content, action, QVariantMap{{QStringLiteral("email"), QStringLiteral("a@b.example")}});
         const Params sent = event("CUSTOM_ACTION_PERFORMED");
         QCOMPARE(sent.at("NAG_CUSTOM_ACTION"), Util::QStringToUtf8(action));
         QCOMPARE(sent.count("EMAIL") == 1, withValues);
@@ -221,13 +227,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("internal");
         QTest::addColumn<QString>("computed");
         QTest::addColumn<Params>("verdict");
-        QTest::newRow("one of four differs") << QStringLiteral("0101") << QStringLiteral("0111")
-                                             << Params{{"NAG_HASH_MATCH", "3/4"}, {"NAG_HASH_MATCH_PERCENT", "75.000000"}};
+        QTest::newRow("one of four differs")
+            << QStringLiteral("0101") << QStringLiteral("0111")
+            << Params{{"NAG_HASH_MATCH", "3/4"}, {"NAG_HASH_MATCH_PERCENT", "75.000000"}};
         QTest::newRow("thirty-one of thirty-two")
             << QString(32, QLatin1Char('1')) << QString(31, QLatin1Char('1')) + QLatin1Char('0')
             << Params{{"NAG_HASH_MATCH", "31/32"}, {"NAG_HASH_MATCH_PERCENT", "96.875000"}};
-        QTest::newRow("sizes differ") << QStringLiteral("01") << QStringLiteral("011")
-                                      << Params{{"NAG_HASH_ERROR", "NAG_INTERNAL_HASH and NAG_COMPUTED_HASH have different sizes"}};
+        QTest::newRow("sizes differ")
+            << QStringLiteral("01") << QStringLiteral("011")
+            << Params{{"NAG_HASH_ERROR", "NAG_INTERNAL_HASH and NAG_COMPUTED_HASH have different sizes"}};
         QTest::newRow("internal not binary") << QStringLiteral("01a1") << QStringLiteral("01x1")
                                              << Params{{"NAG_HASH_ERROR", "NAG_INTERNAL_HASH is not binary"}};
         QTest::newRow("computed not binary") << QStringLiteral("0101") << QStringLiteral("0121")
@@ -266,7 +274,8 @@ private Q_SLOTS:
     void hashAlreadySetIsReportedAtOnce()
     {
         install();
-        manager->setHash({QStringLiteral("earlier"), QSize(2, 2), QStringLiteral("11"), QStringLiteral("10")});
+        manager->setHash(
+            {QStringLiteral("earlier"), QSize(2, 2), QStringLiteral("11"), QStringLiteral("10")});
         FakeContent content;
         manager->GetShowStrategy()->ShowNag(content);
         QCOMPARE(tracker->names(), (std::vector<std::string>{"NAG_SHOW", "NAG_HASH"}));
@@ -280,7 +289,8 @@ private Q_SLOTS:
         bool shown = false;
         show->show = [&](AbstractContent& nag) {
             shown = true;
-            manager->GetActionStrategy()->OpenUrl(nag, QUrl(QStringLiteral("https://x.example/-NAG_ID-")), {});
+            manager->GetActionStrategy()->OpenUrl(nag, QUrl(QStringLiteral("https://x.example/-NAG_ID-")),
+                                                  {});
             return 2;
         };
         QCOMPARE(manager->GetShowStrategy()->ShowNag(content), 2);
@@ -295,8 +305,8 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(setupNagScreenEventHandler(empty, tracker), std::logic_error);
         auto other = std::make_shared<FakeManager>();
         other->SetShowStrategy(std::make_shared<FakeShowStrategy>());
-        other->SetActionStrategy(std::make_shared<DefaultActions>(nullptr, std::weak_ptr<INagLinksOpener>(), nullptr,
-                                                                  nullptr, nullptr, nullptr));
+        other->SetActionStrategy(std::make_shared<DefaultActions>(nullptr, std::weak_ptr<INagLinksOpener>(),
+                                                                  nullptr, nullptr, nullptr, nullptr));
         empty.set<IManager>(other);
         try {
             setupNagScreenEventHandler(empty, tracker);

@@ -124,9 +124,11 @@ private Q_SLOTS:
         Ostrel::Test::LogCapture log;
         NagManager manager(nullptr, QStringLiteral(":/no-map.json"));
         manager.AddNag(QStringLiteral("free"), QString(),
-                       QUrl(QStringLiteral("https://nags.example/n?email=jane.doe%40example.com")), {}, {}, 0);
+                       QUrl(QStringLiteral("https://nags.example/n?email=jane.doe%40example.com")), {}, {},
+                       0);
         QuickContent content(NagContext{QStringLiteral("app_start"), QStringLiteral("free")},
-                             QUrl(QStringLiteral("qrc:/no/jane.doe@example.com/main.qml")), ContentEnvironment());
+                             QUrl(QStringLiteral("qrc:/no/jane.doe@example.com/main.qml")),
+                             ContentEnvironment());
         content.Load();
         QCOMPARE(content.State(), ContentState::Failed);
         QCOMPARE(log.matching("A nag without action").size(), size_t(1));

@@ -26,16 +26,37 @@ class TestFormTest : public QObject
         auto result = std::make_shared<FakeManager>();
         auto config = std::make_shared<NagConfig>();
         for (const char* action : {"before_routine", "app_start", "Zeta"})
-            config->Add(QStringLiteral("free"), NagRecord{QString::fromLatin1(action), Implementation::None, {}, QStringLiteral("qrc:/x.qml"), {}, {}, false});
+            config->Add(QStringLiteral("free"), NagRecord{QString::fromLatin1(action),
+                                                          Implementation::None,
+                                                          {},
+                                                          QStringLiteral("qrc:/x.qml"),
+                                                          {},
+                                                          {},
+                                                          false});
         for (const char* action : {"app_start", "app_close"})
-            config->Add(QStringLiteral("any_mode"), NagRecord{QString::fromLatin1(action), Implementation::None, {}, QStringLiteral("qrc:/x.qml"), {}, {}, false});
-        config->Add(QStringLiteral("trial"), NagRecord{QStringLiteral("major_update"), Implementation::None, {}, QStringLiteral("qrc:/x.qml"), {}, {}, false});
+            config->Add(QStringLiteral("any_mode"), NagRecord{QString::fromLatin1(action),
+                                                              Implementation::None,
+                                                              {},
+                                                              QStringLiteral("qrc:/x.qml"),
+                                                              {},
+                                                              {},
+                                                              false});
+        config->Add(QStringLiteral("trial"), NagRecord{QStringLiteral("major_update"),
+                                                       Implementation::None,
+                                                       {},
+                                                       QStringLiteral("qrc:/x.qml"),
+                                                       {},
+                                                       {},
+                                                       false});
         result->config = config;
         result->available = {QStringLiteral("app_start")};
         return result;
     }
 
-    static QString hashText(QWidget& form) { return form.findChild<QLabel*>(QStringLiteral("hash_label"))->text(); }
+    static QString hashText(QWidget& form)
+    {
+        return form.findChild<QLabel*>(QStringLiteral("hash_label"))->text();
+    }
 
 private Q_SLOTS:
     void init() { manager = makeManager(); }
@@ -50,15 +71,16 @@ private Q_SLOTS:
         for (int i = 0; i < combo->count(); ++i)
             items << combo->itemData(i).toString();
         // Case-sensitive order: upper case first.
-        QCOMPARE(items, (QStringList{QStringLiteral("Zeta"), QStringLiteral("app_close"), QStringLiteral("app_start"),
-                                     QStringLiteral("before_routine")}));
+        QCOMPARE(items, (QStringList{QStringLiteral("Zeta"), QStringLiteral("app_close"),
+                                     QStringLiteral("app_start"), QStringLiteral("before_routine")}));
         QCOMPARE(combo->iconSize(), QSize(14, 14));
         for (const char* name : {"showNag_button", "chooseCustomPath_button", "reloadAllNags_button"})
             QVERIFY(form.findChild<QPushButton*>(QString::fromLatin1(name)));
 
         auto* state = form.findChild<QLabel*>(QStringLiteral("currentActionState_label"));
         QCOMPARE(combo->currentText(), QStringLiteral("Zeta"));
-        QCOMPARE(state->text(), QStringLiteral("<b style=\"color: #d95963;\">Unavailable</b> static or web nag"));
+        QCOMPARE(state->text(),
+                 QStringLiteral("<b style=\"color: #d95963;\">Unavailable</b> static or web nag"));
         combo->setCurrentText(QStringLiteral("app_start"));
         QCOMPARE(state->text(), QStringLiteral("static or web nag"));
 
@@ -110,22 +132,36 @@ private Q_SLOTS:
 
         const QString red = QStringLiteral("<span style='color:red;'>%1</span>");
         QTest::newRow("one of four differs")
-            << "welcome" << QSize(2, 2) << "0101" << "0111"
-            << QStringList{QStringLiteral("welcome"), QStringLiteral("2"), QStringLiteral("2"),
+            << "welcome" << QSize(2, 2) << "0101"
+            << "0111"
+            << QStringList{QStringLiteral("welcome"),
+                           QStringLiteral("2"),
+                           QStringLiteral("2"),
                            QStringLiteral("01") + red.arg(QLatin1Char('0')) + QStringLiteral("1"),
-                           QStringLiteral("01") + red.arg(QLatin1Char('1')) + QStringLiteral("1"), QStringLiteral("1"),
+                           QStringLiteral("01") + red.arg(QLatin1Char('1')) + QStringLiteral("1"),
+                           QStringLiteral("1"),
                            QStringLiteral("25%")};
-        QTest::newRow("one of three differs")
-            << "x" << QSize(3, 1) << "011" << "010"
-            << QStringList{QStringLiteral("x"), QStringLiteral("3"), QStringLiteral("1"),
-                           QStringLiteral("01") + red.arg(QLatin1Char('1')), QStringLiteral("01") + red.arg(QLatin1Char('0')),
-                           QStringLiteral("1"), QStringLiteral("33.3333%")};
-        const QString noDistance = QStringLiteral("some hash is empty, it is impossible to calculate the distance");
+        QTest::newRow("one of three differs") << "x" << QSize(3, 1) << "011"
+                                              << "010"
+                                              << QStringList{QStringLiteral("x"),
+                                                             QStringLiteral("3"),
+                                                             QStringLiteral("1"),
+                                                             QStringLiteral("01") + red.arg(QLatin1Char('1')),
+                                                             QStringLiteral("01") + red.arg(QLatin1Char('0')),
+                                                             QStringLiteral("1"),
+                                                             QStringLiteral("33.3333%")};
+        const QString noDistance =
+            QStringLiteral("some hash is empty, it is impossible to calculate the distance");
         const QString noSize = QStringLiteral("hashSize is not specified in the nag");
-        QTest::newRow("nothing named")
-            << "" << QSize() << "0101" << ""
-            << QStringList{QStringLiteral("add hashName to nag to calculate hash"), noSize, noSize, QStringLiteral("0101"),
-                           QString(), noDistance, noDistance};
+        QTest::newRow("nothing named") << "" << QSize() << "0101"
+                                       << ""
+                                       << QStringList{QStringLiteral("add hashName to nag to calculate hash"),
+                                                      noSize,
+                                                      noSize,
+                                                      QStringLiteral("0101"),
+                                                      QString(),
+                                                      noDistance,
+                                                      noDistance};
     }
 
     void fingerprintView()
@@ -143,10 +179,12 @@ private Q_SLOTS:
         form.findChild<QPushButton*>(QStringLiteral("showNag_button"))->click();
         QCOMPARE(manager->shown, std::vector<QString>{QStringLiteral("Zeta")});
         const QString expected =
-            QStringLiteral("<table><tr><td>hashName:</td>      <td>%1</td></tr><tr><td>hashWidth:</td>      <td>%2</td></tr>"
-                           "<tr><td>hashHeight:</td>     <td>%3</td></tr><tr><td>inNagHash:</td>      <td>%4</td></tr>"
-                           "<tr><td>computedNagHash:</td><td>%5</td></tr><tr><td>distance:</td>       <td>%6</td></tr>"
-                           "<tr><td>distance (%):</td>   <td>%7</td></tr></table>")
+            QStringLiteral(
+                "<table><tr><td>hashName:</td>      <td>%1</td></tr><tr><td>hashWidth:</td>      "
+                "<td>%2</td></tr>"
+                "<tr><td>hashHeight:</td>     <td>%3</td></tr><tr><td>inNagHash:</td>      <td>%4</td></tr>"
+                "<tr><td>computedNagHash:</td><td>%5</td></tr><tr><td>distance:</td>       <td>%6</td></tr>"
+                "<tr><td>distance (%):</td>   <td>%7</td></tr></table>")
                 .arg(cells[0], cells[1], cells[2], cells[3], cells[4], cells[5], cells[6]);
         QCOMPARE(hashText(form), expected);
     }

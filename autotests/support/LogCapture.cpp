@@ -12,8 +12,8 @@ LogCapture::~LogCapture()
     google::RemoveLogSink(this);
 }
 
-void LogCapture::send(google::LogSeverity severity, const char*, const char*, int, const google::LogMessageTime&,
-                      const char* message, size_t messageLen)
+void LogCapture::send(google::LogSeverity severity, const char*, const char*, int,
+                      const google::LogMessageTime&, const char* message, size_t messageLen)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     m_lines.push_back({severity, std::string(message, messageLen)});

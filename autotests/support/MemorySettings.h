@@ -18,7 +18,10 @@ public:
     std::map<std::string, std::string> values;
 
     void SetString(const std::string& key, const std::string& value) override { values[key] = value; }
-    bool GetBool(const std::string& key, bool def) const override { return Has(key) ? values.at(key) == "true" : def; }
+    bool GetBool(const std::string& key, bool def) const override
+    {
+        return Has(key) ? values.at(key) == "true" : def;
+    }
     std::string GetString(const std::string& key, const std::string& def) const override
     {
         return Has(key) ? values.at(key) : def;
@@ -31,7 +34,10 @@ public:
     void Remove(const std::string& key) override { values.erase(key); }
     void SetBool(const std::string& key, bool value) override { values[key] = value ? "true" : "false"; }
     void SetUInt(const std::string& key, unsigned value) override { values[key] = std::to_string(value); }
-    int GetInt(const std::string& key, int def) const override { return Has(key) ? std::stoi(values.at(key)) : def; }
+    int GetInt(const std::string& key, int def) const override
+    {
+        return Has(key) ? std::stoi(values.at(key)) : def;
+    }
     void SetInt(const std::string& key, int value) override { values[key] = std::to_string(value); }
     void RemoveGroup(const std::string&) override {}
     std::vector<std::string> ChildKeys(const std::string&) const override { return {}; }

@@ -29,8 +29,8 @@ void guardMessage(QtMsgType type, const QMessageLogContext& context, const QStri
         return;
     previousHandler(type, context, message);
     if (warningsFail && (type == QtWarningMsg || type == QtCriticalMsg))
-        QTest::qFail(qPrintable(QStringLiteral("Unexpected Qt warning: ") + message), context.file ? context.file : "",
-                     context.line);
+        QTest::qFail(qPrintable(QStringLiteral("Unexpected Qt warning: ") + message),
+                     context.file ? context.file : "", context.line);
 }
 
 } // namespace

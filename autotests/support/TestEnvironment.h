@@ -36,5 +36,5 @@ int exec(QObject* test, int argc, char** argv);
         QApplication app(argc, argv);                                                                        \
         TestClass test;                                                                                      \
         QTEST_SET_MAIN_SOURCE_PATH                                                                           \
-        return Ostrel::Test::exec(&test, argc, argv);                                                              \
+        return Ostrel::Test::exec(&test, argc, argv);                                                        \
     }

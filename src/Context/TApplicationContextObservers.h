@@ -6,11 +6,9 @@ namespace Ostrel::App {
 
 /// The observer of a whole component list: one TApplicationContextObserver base per component,
 /// in the order of the list, after the one of the `void` placeholder.
-template <class... Components>
-class TApplicationContextObservers;
+template <class... Components> class TApplicationContextObservers;
 
-template <class T>
-class TApplicationContextObservers<T> : public TApplicationContextObserver<T>
+template <class T> class TApplicationContextObservers<T> : public TApplicationContextObserver<T>
 {
 public:
     ~TApplicationContextObservers() override = default;

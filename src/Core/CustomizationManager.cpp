@@ -97,8 +97,7 @@ CustomizationManager::CustomizationManager(const QString& filePath, const QStrin
     if (!embeddedPath.isEmpty())
         d->applyLayer(embeddedPath);
     d->applyLayer(filePath.isEmpty() ? defaultFilePath() : filePath);
-    d->collectEmail =
-        SettingsText::parseBool(Util::Utf8ToQString(d->value(CollectEmail))).value_or(false);
+    d->collectEmail = SettingsText::parseBool(Util::Utf8ToQString(d->value(CollectEmail))).value_or(false);
 }
 
 CustomizationManager::~CustomizationManager() = default;

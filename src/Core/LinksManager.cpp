@@ -68,11 +68,12 @@ public:
     QString tail() const
     {
         const std::string hardwareId = hardwareInfo->GetHardwareId();
-        const QString huid = hardwareId.empty()
-                                 ? QString()
-                                 : QString::fromLatin1(QCryptographicHash::hash(QByteArray::fromStdString(hardwareId),
-                                                                                QCryptographicHash::Sha1)
-                                                           .toHex());
+        const QString huid =
+            hardwareId.empty()
+                ? QString()
+                : QString::fromLatin1(QCryptographicHash::hash(QByteArray::fromStdString(hardwareId),
+                                                               QCryptographicHash::Sha1)
+                                          .toHex());
         QList<QPair<QString, QString>> query = {
             {QStringLiteral("app"), Util::Utf8ToQString(customization->GetInternalId())},
             {QStringLiteral("version"), version()},
@@ -139,7 +140,8 @@ public:
         QString result = Util::Utf8ToQString(builtIn->second);
         for (const auto& [endpoint, defaultHost] : UrlEndpointHosts()) {
             const QString prefix = QStringLiteral("https://") + Util::Utf8ToQString(defaultHost);
-            if (!result.startsWith(prefix) || (result.size() > prefix.size() && result.at(prefix.size()) != QLatin1Char('/')))
+            if (!result.startsWith(prefix) ||
+                (result.size() > prefix.size() && result.at(prefix.size()) != QLatin1Char('/')))
                 continue;
             const std::string host = customization->GetCustomValue("Hosts/" + endpoint);
             if (!host.empty())
@@ -240,7 +242,8 @@ QString LinksManager::GenerateUrl(const QString& url, QMap<QString, QString> par
     for (auto it = parameters.cbegin(); it != parameters.cend(); ++it) {
         const QString& key = it.key();
         const bool positional = !key.isEmpty() && (key.at(0).isDigit() || key.startsWith(QLatin1Char('%')));
-        const bool macroKey = key.size() > 2 && key.startsWith(QLatin1Char('-')) && key.endsWith(QLatin1Char('-'));
+        const bool macroKey =
+            key.size() > 2 && key.startsWith(QLatin1Char('-')) && key.endsWith(QLatin1Char('-'));
         if (positional || macroKey || key.isEmpty())
             continue;
         if (!result.contains(QLatin1Char('?')))

@@ -48,8 +48,7 @@ class IUserSettingsManager;
 class OSTREL_CORE_EXPORT LinksManager : public ILinksManager
 {
 public:
-    template <class T>
-    using Required = Core::NotNull<std::shared_ptr<T>>;
+    template <class T> using Required = Core::NotNull<std::shared_ptr<T>>;
 
     LinksManager(const Required<ICustomizationManager>& customization,
                  const Required<IHardwareInfo>& hardwareInfo,

@@ -2,10 +2,7 @@
 
 namespace Ostrel::App {
 
-AbstractEmailDialog::AbstractEmailDialog(QWidget* parent)
-    : QDialog(parent)
-{
-}
+AbstractEmailDialog::AbstractEmailDialog(QWidget* parent) : QDialog(parent) {}
 
 AbstractEmailDialog::~AbstractEmailDialog() = default;
 

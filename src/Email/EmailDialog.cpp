@@ -32,22 +32,22 @@ public:
 EmailDialog::EmailDialog(const std::shared_ptr<IMailSettingsManager>& settings,
                          const std::shared_ptr<ILinksManager>& links,
                          const std::shared_ptr<ICustomizationManager>& customization, QWidget* parent)
-    : AbstractEmailDialog(parent)
-    , d(std::make_unique<Impl>())
+    : AbstractEmailDialog(parent), d(std::make_unique<Impl>())
 {
     d->settings = settings;
     d->links = links;
-    const QString product = customization ? Util::Utf8ToQString(customization->GetPresentableName()) : QString();
+    const QString product =
+        customization ? Util::Utf8ToQString(customization->GetPresentableName()) : QString();
 
     setObjectName(QStringLiteral("EmailDialog"));
     setWindowTitle(tr("Stay in touch"));
     setModal(true);
 
-    auto* intro = new QLabel(product.isEmpty()
-                                 ? tr("Leave your e-mail address to hear about new features and offers.")
-                                 : tr("Leave your e-mail address to hear about new features and offers of %1.")
-                                       .arg(product),
-                             this);
+    auto* intro = new QLabel(
+        product.isEmpty()
+            ? tr("Leave your e-mail address to hear about new features and offers.")
+            : tr("Leave your e-mail address to hear about new features and offers of %1.").arg(product),
+        this);
     intro->setWordWrap(true);
 
     d->name = new QLineEdit(Util::Utf8ToQString(settings->GetString("UserName", std::string())), this);
@@ -67,7 +67,8 @@ EmailDialog::EmailDialog(const std::shared_ptr<IMailSettingsManager>& settings,
     d->error->hide();
     connect(d->email, &QLineEdit::textEdited, d->error, &QLabel::hide);
 
-    auto* privacy = new QLabel(tr("We never share your address. <a href=\"privacy\">Privacy policy</a>"), this);
+    auto* privacy =
+        new QLabel(tr("We never share your address. <a href=\"privacy\">Privacy policy</a>"), this);
     privacy->setObjectName(QStringLiteral("privacyLabel"));
     privacy->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     privacy->setVisible(links != nullptr);
@@ -80,7 +81,8 @@ EmailDialog::EmailDialog(const std::shared_ptr<IMailSettingsManager>& settings,
     QPushButton* subscribe = buttons->addButton(tr("Subscribe"), QDialogButtonBox::AcceptRole);
     subscribe->setObjectName(QStringLiteral("subscribeButton"));
     subscribe->setDefault(true);
-    buttons->addButton(tr("Not now"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("cancelButton"));
+    buttons->addButton(tr("Not now"), QDialogButtonBox::RejectRole)
+        ->setObjectName(QStringLiteral("cancelButton"));
     connect(buttons, &QDialogButtonBox::accepted, this, &EmailDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &EmailDialog::reject);
 

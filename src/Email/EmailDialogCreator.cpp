@@ -6,9 +6,11 @@
 
 namespace Ostrel::App {
 
-std::unique_ptr<AbstractEmailDialog> EmailDialogCreator::Create(
-    const std::shared_ptr<IMailSettingsManager>& settingsManager, const std::shared_ptr<ILinksManager>& linksManager,
-    const std::shared_ptr<ICustomizationManager>& customizationManager, QWidget* parent)
+std::unique_ptr<AbstractEmailDialog>
+EmailDialogCreator::Create(const std::shared_ptr<IMailSettingsManager>& settingsManager,
+                           const std::shared_ptr<ILinksManager>& linksManager,
+                           const std::shared_ptr<ICustomizationManager>& customizationManager,
+                           QWidget* parent)
 {
     if (!settingsManager) {
         LOG(ERROR) << "No mail settings to keep the e-mail address in";

@@ -17,7 +17,8 @@ class EmailDialog : public AbstractEmailDialog
     Q_OBJECT
 
 public:
-    EmailDialog(const std::shared_ptr<IMailSettingsManager>& settings, const std::shared_ptr<ILinksManager>& links,
+    EmailDialog(const std::shared_ptr<IMailSettingsManager>& settings,
+                const std::shared_ptr<ILinksManager>& links,
                 const std::shared_ptr<ICustomizationManager>& customization, QWidget* parent);
     ~EmailDialog() override;
 

@@ -110,8 +110,10 @@ void EmailSender::SendEmail(const std::map<std::string, std::string>& parameters
     if (url.contains(QLatin1String("-NAME-")) || url.contains(QLatin1String("-EMAIL-"))) {
         // A generator that leaves the two macros to its caller.
         QMap<QString, QString> macros;
-        macros.insert(QStringLiteral("-NAME-"), encodedValue(d->mailSettings->GetString("UserName", std::string())));
-        macros.insert(QStringLiteral("-EMAIL-"), encodedValue(d->mailSettings->GetString("UserEmail", std::string())));
+        macros.insert(QStringLiteral("-NAME-"),
+                      encodedValue(d->mailSettings->GetString("UserName", std::string())));
+        macros.insert(QStringLiteral("-EMAIL-"),
+                      encodedValue(d->mailSettings->GetString("UserEmail", std::string())));
         url = d->linksGenerator->GenerateUrl(url, macros);
     }
 

@@ -9,8 +9,7 @@ namespace Ostrel::Core {
 
 /// A single-value slot that can be observed without the whole application context. It keeps only
 /// a weak reference: the slot never keeps its component alive.
-template <class T, class P = std::shared_ptr<T>>
-class ComponentSetter : public IComponentSetter
+template <class T, class P = std::shared_ptr<T>> class ComponentSetter : public IComponentSetter
 {
 public:
     /// Stores a weak reference to `value` and tells the observers, unless it is the value already held.

@@ -17,8 +17,7 @@ namespace Ostrel::Core {
 /// hears the notification in progress, one added meanwhile first hears the next one. Both mutexes
 /// are recursive, so a handler may also notify the same list again; the nested notification runs
 /// to its end inside the outer one.
-template <class H, class ExecutePolicy = SyncExecutePolicy>
-class EventHandlerList : public EventPublisher<H>
+template <class H, class ExecutePolicy = SyncExecutePolicy> class EventHandlerList : public EventPublisher<H>
 {
 public:
     /// A null handler is ignored; a handler already present is not added twice.
@@ -45,8 +44,7 @@ public:
     /// Calls `method` on every handler in registration order, each call with its own copy of the
     /// arguments. `method` may be a member of any base of H. An exception from a handler leaves
     /// the notification at once: later handlers are not called.
-    template <class Method, class... Args>
-    void Notify(Method method, const Args&... args)
+    template <class Method, class... Args> void Notify(Method method, const Args&... args)
     {
         std::vector<H*> snapshot;
         {

@@ -6,8 +6,7 @@ namespace Ostrel::Core {
 
 /// Implements a publisher interface P by forwarding to an EventHandlerList it holds; the owner
 /// notifies through handlers().
-template <class P>
-class EventHandlerRegistrator : public virtual P
+template <class P> class EventHandlerRegistrator : public virtual P
 {
 public:
     using Handler = typename P::Handler;

@@ -3,8 +3,7 @@
 namespace Ostrel::Core {
 
 /// Something that observers of type H can subscribe to.
-template <class H>
-class EventPublisher
+template <class H> class EventPublisher
 {
 public:
     using Handler = H;

@@ -8,8 +8,7 @@ namespace Ostrel::Core {
 
 /// A smart pointer that is known not to be null. Constructors that need a service take their
 /// arguments as NotNull, so that the first null argument is the one reported.
-template <class P>
-class NotNull
+template <class P> class NotNull
 {
 public:
     NotNull(P pointer) // NOLINT(google-explicit-constructor): converting is the point
@@ -20,7 +19,8 @@ public:
     }
 
     /// From a pointer to a derived type, so that a concrete service passes where its interface is asked.
-    template <class Q, class = std::enable_if_t<std::is_convertible_v<Q, P> && !std::is_same_v<std::decay_t<Q>, P>>>
+    template <class Q,
+              class = std::enable_if_t<std::is_convertible_v<Q, P> && !std::is_same_v<std::decay_t<Q>, P>>>
     NotNull(Q&& pointer) // NOLINT(google-explicit-constructor)
         : NotNull(P(std::forward<Q>(pointer)))
     {

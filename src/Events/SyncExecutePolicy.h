@@ -13,11 +13,7 @@ class SyncExecutePolicy
 public:
     std::recursive_mutex& executeMutex() { return m_executeMutex; }
 
-    template <class Call>
-    void Execute(Call&& call)
-    {
-        std::forward<Call>(call)();
-    }
+    template <class Call> void Execute(Call&& call) { std::forward<Call>(call)(); }
 
 private:
     std::recursive_mutex m_executeMutex;

@@ -31,7 +31,8 @@ public:
     const Property* GetChild(const std::string& name) const;
     Property* GetChild(const std::string& name);
     /// The string of the first child named `name`, or `defaultValue` when there is none.
-    std::string GetChildString(const std::string& name, const std::string& defaultValue = std::string()) const;
+    std::string GetChildString(const std::string& name,
+                               const std::string& defaultValue = std::string()) const;
     /// Appends a child and returns it; the reference stays valid while the child exists.
     Property& AddChild(const std::string& name, const std::string& value = std::string());
     const std::list<Property>& GetChildren() const;

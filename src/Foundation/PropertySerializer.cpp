@@ -53,11 +53,20 @@ bool unquote(const std::string& text, std::string* value)
         if (++i >= text.size())
             return false;
         switch (text[i]) {
-        case '"': value->push_back('"'); break;
-        case '\\': value->push_back('\\'); break;
-        case 'n': value->push_back('\n'); break;
-        case 't': value->push_back('\t'); break;
-        default: return false;
+        case '"':
+            value->push_back('"');
+            break;
+        case '\\':
+            value->push_back('\\');
+            break;
+        case 'n':
+            value->push_back('\n');
+            break;
+        case 't':
+            value->push_back('\t');
+            break;
+        default:
+            return false;
         }
     }
     if (i >= text.size())
@@ -70,11 +79,20 @@ std::string quote(const std::string& value)
     std::string out = "\"";
     for (const char c : value) {
         switch (c) {
-        case '"': out += "\\\""; break;
-        case '\\': out += "\\\\"; break;
-        case '\n': out += "\\n"; break;
-        case '\t': out += "\\t"; break;
-        default: out.push_back(c);
+        case '"':
+            out += "\\\"";
+            break;
+        case '\\':
+            out += "\\\\";
+            break;
+        case '\n':
+            out += "\\n";
+            break;
+        case '\t':
+            out += "\\t";
+            break;
+        default:
+            out.push_back(c);
         }
     }
     out.push_back('"');
@@ -97,7 +115,8 @@ void write(const Property& node, int depth, std::string* out)
 
 } // namespace
 
-bool PropertySerializer::Deserialize(Property& property, const std::shared_ptr<DataInputString>& input, bool clear)
+bool PropertySerializer::Deserialize(Property& property, const std::shared_ptr<DataInputString>& input,
+                                     bool clear)
 {
     if (clear)
         property.Clear();

@@ -18,8 +18,7 @@ public:
 };
 
 AbstractContent::AbstractContent(const NagContext& context, ContentEnvironment environment, QObject* parent)
-    : QObject(parent)
-    , d(std::make_unique<Impl>())
+    : QObject(parent), d(std::make_unique<Impl>())
 {
     qRegisterMetaType<ContentState>("Ostrel::App::NagScreen::ContentState");
     d->context = context;

@@ -7,17 +7,18 @@ namespace Ostrel::App::NagScreen {
 
 ContentFactory::ContentFactory(std::function<std::shared_ptr<const NagConfig>()> config,
                                ContentEnvironment environment)
-    : m_config(std::move(config))
-    , m_environment(std::move(environment))
+    : m_config(std::move(config)), m_environment(std::move(environment))
 {
 }
 
 ContentFactory::~ContentFactory() = default;
 
-std::unique_ptr<AbstractContent> ContentFactory::Create(Implementation implementation, const NagContext& context)
+std::unique_ptr<AbstractContent> ContentFactory::Create(Implementation implementation,
+                                                        const NagContext& context)
 {
     const auto config = m_config ? m_config() : nullptr;
-    const std::optional<NagRecord> record = config ? config->Find(context.mode, context.action) : std::nullopt;
+    const std::optional<NagRecord> record =
+        config ? config->Find(context.mode, context.action) : std::nullopt;
     const QUrl source = record ? QUrl(record->source, QUrl::TolerantMode) : QUrl();
 
     std::unique_ptr<QmlContent> content;

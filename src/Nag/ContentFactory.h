@@ -18,7 +18,8 @@ public:
     ContentFactory(std::function<std::shared_ptr<const NagConfig>()> config, ContentEnvironment environment);
     ~ContentFactory() override;
 
-    std::unique_ptr<AbstractContent> Create(Implementation implementation, const NagContext& context) override;
+    std::unique_ptr<AbstractContent> Create(Implementation implementation,
+                                            const NagContext& context) override;
 
 private:
     std::function<std::shared_ptr<const NagConfig>()> m_config;

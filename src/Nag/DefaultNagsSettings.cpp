@@ -19,8 +19,7 @@ DefaultNagsSettings::DefaultNagsSettings()
 }
 
 DefaultNagsSettings::DefaultNagsSettings(WebConfigDocument document, QString locale)
-    : m_document(std::move(document))
-    , m_locale(std::move(locale))
+    : m_document(std::move(document)), m_locale(std::move(locale))
 {
 }
 
@@ -67,20 +66,65 @@ std::vector<std::string> DefaultNagsSettings::list(const char* key) const
     return result;
 }
 
-int DefaultNagsSettings::nagIdleAfterStartTimeout() const { return integer("NagIdleAfterStartTimeout", 60); }
-int DefaultNagsSettings::nagIdleAfterEditTimeout() const { return integer("NagIdleAfterEditTimeout", 30); }
-int DefaultNagsSettings::delayBetweenDownload() const { return integer("DelayBetweenDownload", 3600); }
-bool DefaultNagsSettings::useOldConfigDownloader() const { return boolean("UseOldConfigDownloader", false); }
-bool DefaultNagsSettings::storeConfigBetweenSessions() const { return boolean("StoreConfigBetweenSessions", true); }
-bool DefaultNagsSettings::useExtractedNagCache() const { return boolean("UseExtractedNagCache", true); }
-bool DefaultNagsSettings::preloadNagContentOnStart() const { return boolean("PreloadNagContentOnStart", false); }
-bool DefaultNagsSettings::storeNagsBetweenSessions() const { return boolean("StoreNagsBetweenSessions", true); }
-std::string DefaultNagsSettings::nagDimmingName() const { return text("NagDimmingName", "color"); }
-std::string DefaultNagsSettings::nagDimmingParameters() const { return text("NagDimmingParameters", ""); }
-bool DefaultNagsSettings::sendNagHashEvent() const { return boolean("SendNagHashEvent", false); }
-std::vector<std::string> DefaultNagsSettings::nagsProhibitedToDisable() const { return list("NagsProhibitedToDisable"); }
-std::vector<std::string> DefaultNagsSettings::nagsPriority() const { return list("NagsPriority"); }
-bool DefaultNagsSettings::asyncNagsLoad() const { return boolean("AsyncNagsLoad", true); }
-bool DefaultNagsSettings::useNewNagsDrawer() const { return boolean("UseNewNagsDrawer", true); }
+int DefaultNagsSettings::nagIdleAfterStartTimeout() const
+{
+    return integer("NagIdleAfterStartTimeout", 60);
+}
+int DefaultNagsSettings::nagIdleAfterEditTimeout() const
+{
+    return integer("NagIdleAfterEditTimeout", 30);
+}
+int DefaultNagsSettings::delayBetweenDownload() const
+{
+    return integer("DelayBetweenDownload", 3600);
+}
+bool DefaultNagsSettings::useOldConfigDownloader() const
+{
+    return boolean("UseOldConfigDownloader", false);
+}
+bool DefaultNagsSettings::storeConfigBetweenSessions() const
+{
+    return boolean("StoreConfigBetweenSessions", true);
+}
+bool DefaultNagsSettings::useExtractedNagCache() const
+{
+    return boolean("UseExtractedNagCache", true);
+}
+bool DefaultNagsSettings::preloadNagContentOnStart() const
+{
+    return boolean("PreloadNagContentOnStart", false);
+}
+bool DefaultNagsSettings::storeNagsBetweenSessions() const
+{
+    return boolean("StoreNagsBetweenSessions", true);
+}
+std::string DefaultNagsSettings::nagDimmingName() const
+{
+    return text("NagDimmingName", "color");
+}
+std::string DefaultNagsSettings::nagDimmingParameters() const
+{
+    return text("NagDimmingParameters", "");
+}
+bool DefaultNagsSettings::sendNagHashEvent() const
+{
+    return boolean("SendNagHashEvent", false);
+}
+std::vector<std::string> DefaultNagsSettings::nagsProhibitedToDisable() const
+{
+    return list("NagsProhibitedToDisable");
+}
+std::vector<std::string> DefaultNagsSettings::nagsPriority() const
+{
+    return list("NagsPriority");
+}
+bool DefaultNagsSettings::asyncNagsLoad() const
+{
+    return boolean("AsyncNagsLoad", true);
+}
+bool DefaultNagsSettings::useNewNagsDrawer() const
+{
+    return boolean("UseNewNagsDrawer", true);
+}
 
 } // namespace Ostrel::App::WebConfig

@@ -6,10 +6,10 @@ QString DifferenceHash(const QImage& picture, const QSize& hashSize)
 {
     if (picture.isNull() || hashSize.isEmpty())
         return {};
-    const QImage grey = picture.convertToFormat(QImage::Format_ARGB32)
-                            .scaled(hashSize.width() + 1, hashSize.height(), Qt::IgnoreAspectRatio,
-                                    Qt::SmoothTransformation)
-                            .convertToFormat(QImage::Format_Grayscale8);
+    const QImage grey =
+        picture.convertToFormat(QImage::Format_ARGB32)
+            .scaled(hashSize.width() + 1, hashSize.height(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+            .convertToFormat(QImage::Format_Grayscale8);
     QString bits;
     bits.reserve(hashSize.width() * hashSize.height());
     for (int y = 0; y < grey.height(); ++y) {

@@ -16,7 +16,8 @@ class IContentFactory
 public:
     virtual ~IContentFactory() = default;
     /// Null for Implementation::None.
-    virtual std::unique_ptr<AbstractContent> Create(Implementation implementation, const NagContext& context) = 0;
+    virtual std::unique_ptr<AbstractContent> Create(Implementation implementation,
+                                                    const NagContext& context) = 0;
 };
 
 } // namespace Ostrel::App::NagScreen

@@ -16,8 +16,10 @@ class INagLinksOpener
 {
 public:
     virtual ~INagLinksOpener() = default;
-    virtual void OpenUrl(const AbstractContent& content, const QString& url, const QMap<QString, QVariant>& params) = 0;
-    virtual void OpenUrl(const AbstractContent& content, URLKeys key, const QMap<QString, QVariant>& params) = 0;
+    virtual void OpenUrl(const AbstractContent& content, const QString& url,
+                         const QMap<QString, QVariant>& params) = 0;
+    virtual void OpenUrl(const AbstractContent& content, URLKeys key,
+                         const QMap<QString, QVariant>& params) = 0;
 };
 
 } // namespace Ostrel::App::NagScreen

@@ -9,17 +9,50 @@ namespace Ostrel::App::NagScreen {
 
 /// The moments a nag can be shown at. Hosts may use actions of their own: an action is a string.
 namespace AppAction {
-inline QString AppStart() { return QStringLiteral("app_start"); }
-inline QString AppClose() { return QStringLiteral("app_close"); }
-inline QString BeforeRoutine() { return QStringLiteral("before_routine"); }
-inline QString MajorUpdate() { return QStringLiteral("major_update"); }
-inline QString MinorUpdate() { return QStringLiteral("minor_update"); }
-inline QString OpenNag() { return QStringLiteral("open_nag"); }
-inline QString FirstFeedback() { return QStringLiteral("first_feedback"); }
-inline QString SecondFeedback() { return QStringLiteral("second_feedback"); }
-inline QString ThirdFeedback() { return QStringLiteral("third_feedback"); }
-inline QString AskForReview() { return QStringLiteral("ask_for_review"); }
-inline QString AuthorizationWindow() { return QStringLiteral("authorization_window"); }
+inline QString AppStart()
+{
+    return QStringLiteral("app_start");
+}
+inline QString AppClose()
+{
+    return QStringLiteral("app_close");
+}
+inline QString BeforeRoutine()
+{
+    return QStringLiteral("before_routine");
+}
+inline QString MajorUpdate()
+{
+    return QStringLiteral("major_update");
+}
+inline QString MinorUpdate()
+{
+    return QStringLiteral("minor_update");
+}
+inline QString OpenNag()
+{
+    return QStringLiteral("open_nag");
+}
+inline QString FirstFeedback()
+{
+    return QStringLiteral("first_feedback");
+}
+inline QString SecondFeedback()
+{
+    return QStringLiteral("second_feedback");
+}
+inline QString ThirdFeedback()
+{
+    return QStringLiteral("third_feedback");
+}
+inline QString AskForReview()
+{
+    return QStringLiteral("ask_for_review");
+}
+inline QString AuthorizationWindow()
+{
+    return QStringLiteral("authorization_window");
+}
 } // namespace AppAction
 
 /// The modes of the product as the nag map knows them. The mode says which commercial state the
@@ -29,10 +62,22 @@ inline QString AuthorizationWindow() { return QStringLiteral("authorization_wind
 ///  - "licensed": a paid licence is active.
 /// "any_mode" is a row of the map that applies in every mode; only the manager compares with it.
 namespace AppMode {
-inline QString Free() { return QStringLiteral("free"); }
-inline QString Trial() { return QStringLiteral("trial"); }
-inline QString Licensed() { return QStringLiteral("licensed"); }
-inline QString AnyMode() { return QStringLiteral("any_mode"); }
+inline QString Free()
+{
+    return QStringLiteral("free");
+}
+inline QString Trial()
+{
+    return QStringLiteral("trial");
+}
+inline QString Licensed()
+{
+    return QStringLiteral("licensed");
+}
+inline QString AnyMode()
+{
+    return QStringLiteral("any_mode");
+}
 } // namespace AppMode
 
 /// What a nag is shown for. `preview` is set by tools that make a content outside the product's

@@ -38,8 +38,7 @@ public:
 };
 
 QmlContent::QmlContent(const NagContext& context, ContentEnvironment environment, QObject* parent)
-    : AbstractContent(context, std::move(environment), parent)
-    , d(std::make_unique<Impl>())
+    : AbstractContent(context, std::move(environment), parent), d(std::make_unique<Impl>())
 {
     RegisterNagFonts();
     d->callback = new NagCallback(*this);

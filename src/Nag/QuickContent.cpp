@@ -10,8 +10,7 @@ namespace Ostrel::App::NagScreen {
 
 QuickContent::QuickContent(const NagContext& context, const QUrl& mainQml, ContentEnvironment environment,
                            QObject* parent)
-    : QmlContent(context, std::move(environment), parent)
-    , m_source(mainQml)
+    : QmlContent(context, std::move(environment), parent), m_source(mainQml)
 {
     connect(view(), &QQuickWidget::statusChanged, this, &QuickContent::onStatus);
 }
@@ -30,7 +29,8 @@ QUrl QuickContent::LocalUrl() const
 
 QString QuickContent::Type() const
 {
-    const QString type = QmlContent::nagItem() ? QmlContent::nagItem()->property("nag_type").toString() : QString();
+    const QString type =
+        QmlContent::nagItem() ? QmlContent::nagItem()->property("nag_type").toString() : QString();
     return type.isEmpty() ? QStringLiteral("static") : type;
 }
 
@@ -46,7 +46,8 @@ void QuickContent::LoadFromPath(const QString& path)
         fail("no main.qml was given");
         return;
     }
-    m_source = path.startsWith(QLatin1String(":/")) ? QUrl(QLatin1String("qrc") + path) : QUrl::fromLocalFile(path);
+    m_source =
+        path.startsWith(QLatin1String(":/")) ? QUrl(QLatin1String("qrc") + path) : QUrl::fromLocalFile(path);
     // A nag under development changes between two loads: never take it from the cache.
     view()->engine()->clearComponentCache();
     load(m_source);

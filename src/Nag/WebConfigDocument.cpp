@@ -37,10 +37,7 @@ bool overrideApplies(const QJsonObject& entry, const QString& locale)
 
 WebConfigDocument::WebConfigDocument() = default;
 
-WebConfigDocument::WebConfigDocument(QJsonObject root)
-    : m_root(std::move(root))
-{
-}
+WebConfigDocument::WebConfigDocument(QJsonObject root) : m_root(std::move(root)) {}
 
 WebConfigDocument WebConfigDocument::fromJson(const QByteArray& json)
 {

@@ -28,8 +28,8 @@ public:
 };
 
 NotificationPopup::NotificationPopup(QWidget* content, bool autoHide)
-    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
-    , d(std::make_unique<Impl>())
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      d(std::make_unique<Impl>())
 {
     setObjectName(QStringLiteral("NotificationPopup"));
     setAttribute(Qt::WA_TranslucentBackground);

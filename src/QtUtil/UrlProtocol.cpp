@@ -31,8 +31,8 @@ QString ReplaceUrlProtocol(const QString& url)
     if (colon < 0)
         return url;
     const QString scheme = url.left(colon);
-    if (scheme.compare(QLatin1String("http"), Qt::CaseInsensitive) != 0
-        && scheme.compare(QLatin1String("https"), Qt::CaseInsensitive) != 0)
+    if (scheme.compare(QLatin1String("http"), Qt::CaseInsensitive) != 0 &&
+        scheme.compare(QLatin1String("https"), Qt::CaseInsensitive) != 0)
         return url;
     return (DefaultSslUsage() ? QStringLiteral("https") : QStringLiteral("http")) + url.mid(colon);
 }

@@ -20,9 +20,12 @@ constexpr char PreferredBrowserKey[] = "PreferredBrowser";
 const std::vector<std::pair<QString, QString>>& browserCodes()
 {
     static const std::vector<std::pair<QString, QString>> codes = {
-        {QStringLiteral("chrome.exe"), QStringLiteral("C")},  {QStringLiteral("msedge.exe"), QStringLiteral("E")},
-        {QStringLiteral("firefox.exe"), QStringLiteral("F")}, {QStringLiteral("iexplore.exe"), QStringLiteral("I")},
-        {QStringLiteral("launcher.exe"), QStringLiteral("O")}, {QStringLiteral("safari.exe"), QStringLiteral("S")},
+        {QStringLiteral("chrome.exe"), QStringLiteral("C")},
+        {QStringLiteral("msedge.exe"), QStringLiteral("E")},
+        {QStringLiteral("firefox.exe"), QStringLiteral("F")},
+        {QStringLiteral("iexplore.exe"), QStringLiteral("I")},
+        {QStringLiteral("launcher.exe"), QStringLiteral("O")},
+        {QStringLiteral("safari.exe"), QStringLiteral("S")},
         {QStringLiteral("browser.exe"), QStringLiteral("Y")},
     };
     return codes;
@@ -47,19 +50,22 @@ const std::map<QString, QString>& AbstractPreferredBrowser::userAgentMap()
          QStringLiteral("Mozilla/5.0 (Windows NT 6.1; WOW64) AppleWebKit/537.36 (KHTML, like Gecko) "
                         "Chrome/30.0.1599.12785 YaBrowser/13.12.1599.12785 Safari/537.36")},
         {QStringLiteral("chrome.exe"),
-         QStringLiteral("Mozilla/5.0 (Windows NT 6.1) AppleWebKit/537.36 (KHTML, like Gecko) Chrome/41.0.2228.0 "
-                        "Safari/537.36")},
+         QStringLiteral(
+             "Mozilla/5.0 (Windows NT 6.1) AppleWebKit/537.36 (KHTML, like Gecko) Chrome/41.0.2228.0 "
+             "Safari/537.36")},
         {QStringLiteral("firefox.exe"),
          QStringLiteral("Mozilla/5.0 (Windows NT 6.1; WOW64; rv:40.0) Gecko/20100101 Firefox/40.1")},
         {QStringLiteral("iexplore.exe"),
          QStringLiteral("Mozilla/5.0 (Windows NT 6.1; WOW64; Trident/7.0; AS; rv:11.0) like Gecko")},
-        {QStringLiteral("launcher.exe"), QStringLiteral("Opera/9.80 (Windows NT 6.0) Presto/2.12.388 Version/12.14")},
+        {QStringLiteral("launcher.exe"),
+         QStringLiteral("Opera/9.80 (Windows NT 6.0) Presto/2.12.388 Version/12.14")},
         {QStringLiteral("msedge.exe"),
          QStringLiteral("Mozilla/5.0 (Windows NT 10.0; Win64; x64) AppleWebKit/537.36 (KHTML, like Gecko) "
                         "Chrome/96.0.4664.55 Safari/537.36 Edg/96.0.1054.43")},
         {QStringLiteral("safari.exe"),
-         QStringLiteral("Mozilla/5.0 (Windows; U; Windows NT 6.1; en-US) AppleWebKit/533.20.25 (KHTML, like Gecko) "
-                        "Version/5.0.4 Safari/533.20.27")},
+         QStringLiteral(
+             "Mozilla/5.0 (Windows; U; Windows NT 6.1; en-US) AppleWebKit/533.20.25 (KHTML, like Gecko) "
+             "Version/5.0.4 Safari/533.20.27")},
     };
     return agents;
 }
@@ -70,7 +76,8 @@ AbstractPreferredBrowser::AbstractPreferredBrowser(const std::shared_ptr<IProduc
 }
 
 AbstractPreferredBrowser::AbstractPreferredBrowser(const AbstractPreferredBrowser& other) = default;
-AbstractPreferredBrowser& AbstractPreferredBrowser::operator=(const AbstractPreferredBrowser& other) = default;
+AbstractPreferredBrowser&
+AbstractPreferredBrowser::operator=(const AbstractPreferredBrowser& other) = default;
 AbstractPreferredBrowser::~AbstractPreferredBrowser() = default;
 
 void AbstractPreferredBrowser::Init(const PreferredBrowserContext& context)
@@ -89,11 +96,12 @@ void AbstractPreferredBrowser::Init(const PreferredBrowserContext& context)
     if (!tracker)
         return;
     const QString code = browserCode(context.name);
-    tracker->sendEvent("PREFERRED_BROWSER", {
-                                                {"WI_PREFERRED_BROWSER", Util::QStringToUtf8(code)},
-                                                {"BROWSER", m_path.isEmpty() ? "SYSTEM" : Util::QStringToUtf8(code)},
-                                                {"BROWSER_PATH", Util::QStringToUtf8(m_path)},
-                                            });
+    tracker->sendEvent("PREFERRED_BROWSER",
+                       {
+                           {"WI_PREFERRED_BROWSER", Util::QStringToUtf8(code)},
+                           {"BROWSER", m_path.isEmpty() ? "SYSTEM" : Util::QStringToUtf8(code)},
+                           {"BROWSER_PATH", Util::QStringToUtf8(m_path)},
+                       });
 }
 
 QString AbstractPreferredBrowser::Name() const

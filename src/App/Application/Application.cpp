@@ -69,8 +69,7 @@ Application::Application(int& argc, char** argv, const std::shared_ptr<ILifetime
 
 Application::Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager,
                          bool mutexDisabled)
-    : QApplication(argc, argv)
-    , d(std::make_unique<Impl>(*this, lifetimeManager, mutexDisabled))
+    : QApplication(argc, argv), d(std::make_unique<Impl>(*this, lifetimeManager, mutexDisabled))
 {
     set<ILifetimeManager>(lifetimeManager);
     set<ExternalStimulus::IGateway>(std::make_shared<ExternalStimulus::DirectCallGateway>());
@@ -205,8 +204,8 @@ int Application::GetDaysPassed() const
 {
     const QDateTime now = QDateTime::currentDateTime();
     const auto settings = get<IProductSettingsManager>();
-    const uint firstStart = settings ? settings->GetUInt(ProductConstants::DateOfFirstStart, now.toTime_t())
-                                     : now.toTime_t();
+    const uint firstStart =
+        settings ? settings->GetUInt(ProductConstants::DateOfFirstStart, now.toTime_t()) : now.toTime_t();
     return static_cast<int>(QDateTime::fromTime_t(firstStart).daysTo(now));
 }
 
@@ -240,13 +239,14 @@ bool Application::notify(QObject* receiver, QEvent* event)
         // innermost one, which knows the receiver, recorded it; the others only pass it on.
         if (Core::CurrentExceptionRecorded())
             throw;
-        const std::string receiverClass = receiver ? boost::core::demangle(typeid(*receiver).name()) : "<NULL>";
+        const std::string receiverClass =
+            receiver ? boost::core::demangle(typeid(*receiver).name()) : "<NULL>";
         const std::string eventClass = boost::core::demangle(typeid(*event).name());
         const char* typeName = QMetaEnum::fromType<QEvent::Type>().valueToKey(event->type());
         LOG(ERROR) << "Exception has been caught in event processing\n"
                    << "\tReceiver: " << receiverClass << "\n"
-                   << "\tEvent class: " << eventClass << ". Event type: QEvent::" << (typeName ? typeName : "")
-                   << "\n"
+                   << "\tEvent class: " << eventClass
+                   << ". Event type: QEvent::" << (typeName ? typeName : "") << "\n"
                    << "\tException details: " << boost::diagnostic_information(exception, true);
         const std::string receiverName =
             receiver ? Util::QStringToUtf8(receiver->objectName()) : std::string();
@@ -323,7 +323,8 @@ void Application::Impl::onComponentChanged(const std::shared_ptr<ILaunchTypeProc
         return;
     }
 
-    const std::string overrideKey = std::string(ProductConstants::PartnerName) + ProductConstants::OverrideSuffix;
+    const std::string overrideKey =
+        std::string(ProductConstants::PartnerName) + ProductConstants::OverrideSuffix;
     std::string partner = customization->GetPartnerName();
     if (settings->Has(overrideKey)) {
         const std::string overridden = settings->GetString(overrideKey, std::string());

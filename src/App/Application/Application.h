@@ -83,7 +83,8 @@ protected:
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
-    Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager, bool mutexDisabled);
+    Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager,
+                bool mutexDisabled);
 
     class Impl;
     std::unique_ptr<Impl> d;

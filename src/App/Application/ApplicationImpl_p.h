@@ -22,7 +22,8 @@ class SplashController;
 class Application::Impl : public TopManagerObserver
 {
 public:
-    Impl(Application& application, const std::shared_ptr<ILifetimeManager>& lifetimeManager, bool mutexDisabled);
+    Impl(Application& application, const std::shared_ptr<ILifetimeManager>& lifetimeManager,
+         bool mutexDisabled);
     ~Impl() override;
     Impl(const Impl&) = delete;
     Impl& operator=(const Impl&) = delete;

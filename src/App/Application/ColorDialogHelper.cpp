@@ -42,7 +42,8 @@ ColorDialogHelper::ColorDialogHelper(const std::shared_ptr<IApplicationSettingsM
         return;
     const std::string transparent = Util::QStringToUtf8(QColor(Qt::transparent).name());
     for (int i = 0; i < count; ++i)
-        QColorDialog::setCustomColor(i, QColor(Util::Utf8ToQString(settings->GetString(colorKey(i), transparent))));
+        QColorDialog::setCustomColor(
+            i, QColor(Util::Utf8ToQString(settings->GetString(colorKey(i), transparent))));
 }
 
 ColorDialogHelper::ColorDialogHelper(const ColorDialogHelper& other) : d(std::make_unique<Impl>(*other.d)) {}

@@ -19,8 +19,10 @@ QString GetGPUNeedSetupDriverMessage(const QString& instructionsUrl, const QStri
     // One multi-argument arg(), so that a "%1" inside the URL is not replaced again.
     return QCoreApplication::translate(
                "SharedMessages",
-               "NVIDIA<sup>&reg;</sup> CUDA&#8482; acceleration has been disabled in NVIDIA<sup>&reg;</sup> Control "
-               "Panel. To enable CUDA&#8482; acceleration for %1, select <b>High-performance NVIDIA<sup>&reg;</sup> "
+               "NVIDIA<sup>&reg;</sup> CUDA&#8482; acceleration has been disabled in NVIDIA<sup>&reg;</sup> "
+               "Control "
+               "Panel. To enable CUDA&#8482; acceleration for %1, select <b>High-performance "
+               "NVIDIA<sup>&reg;</sup> "
                "processor</b> as your preferred graphics processor in NVIDIA<sup>&reg;</sup> Control "
                "Panel.<br><br><a href=\"%2\" style=\"%3\">Detailed Instructions</a>",
                nullptr, -1)
@@ -29,13 +31,16 @@ QString GetGPUNeedSetupDriverMessage(const QString& instructionsUrl, const QStri
 
 QString GetGPUUnsupportedDriverMessage(const QString& downloadUrl)
 {
-    return QCoreApplication::translate(
-               "SharedMessages",
-               "Unfortunately, the currently installed graphics card driver does not support NVIDIA<sup>&reg;</sup> "
-               "CUDA&#8482; acceleration.<br><br>You can install an earlier version of the NVIDIA<sup>&reg;</sup> "
-               "graphics card driver to enable CUDA&#8482; acceleration. To do that, simply download the installation "
-               "package and follow the manufacturer's instructions to install the driver.<br><br><a href=\"%1\" "
-               "style=\"%2\">Download Driver</a>",
-               nullptr, -1)
+    return QCoreApplication::translate("SharedMessages",
+                                       "Unfortunately, the currently installed graphics card driver does not "
+                                       "support NVIDIA<sup>&reg;</sup> "
+                                       "CUDA&#8482; acceleration.<br><br>You can install an earlier version "
+                                       "of the NVIDIA<sup>&reg;</sup> "
+                                       "graphics card driver to enable CUDA&#8482; acceleration. To do that, "
+                                       "simply download the installation "
+                                       "package and follow the manufacturer's instructions to install the "
+                                       "driver.<br><br><a href=\"%1\" "
+                                       "style=\"%2\">Download Driver</a>",
+                                       nullptr, -1)
         .arg(downloadUrl, linkStyle());
 }

@@ -23,9 +23,10 @@ public:
     std::shared_ptr<IHardwareInfo> hardwareInfo;
 };
 
-HttpRequestUpdater::HttpRequestUpdater(const Core::NotNull<std::shared_ptr<ICustomizationManager>>& customizationManager,
-                                       const Core::NotNull<std::shared_ptr<IUserSettingsManager>>& userSettingsManager,
-                                       const Core::NotNull<std::shared_ptr<IHardwareInfo>>& hardwareInfo)
+HttpRequestUpdater::HttpRequestUpdater(
+    const Core::NotNull<std::shared_ptr<ICustomizationManager>>& customizationManager,
+    const Core::NotNull<std::shared_ptr<IUserSettingsManager>>& userSettingsManager,
+    const Core::NotNull<std::shared_ptr<IHardwareInfo>>& hardwareInfo)
     : d(std::make_unique<Impl>())
 {
     d->customizationManager = customizationManager;
@@ -57,7 +58,8 @@ std::map<std::string, std::string, Networking::CaseInsensitiveCompare> HttpReque
 void HttpRequestUpdater::updateQtRequest(QNetworkRequest& request) const
 {
     const auto headers = getRawHeaders();
-    request.setHeader(QNetworkRequest::UserAgentHeader, QVariant(Util::Utf8ToQString(headers.at(UserAgentHeader))));
+    request.setHeader(QNetworkRequest::UserAgentHeader,
+                      QVariant(Util::Utf8ToQString(headers.at(UserAgentHeader))));
     for (const auto& [name, value] : headers) {
         if (name != UserAgentHeader)
             request.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));

@@ -43,28 +43,12 @@ namespace Ostrel::App {
 
 /// The product's component list. The order is that of the observer bases and of every walk over
 /// the components; new components go at the end.
-using ApplicationContext = IApplicationContext<void,
-                                               IApplicationSettingsManager,
-                                               ICustomizationManager,
-                                               IIdleManager,
-                                               IInstallerSettingsManager,
-                                               IInternetConnectionChecker,
-                                               ILifetimeManager,
-                                               ILaunchTypeProcessor,
-                                               ILinksManager,
-                                               ILookAndFeelManager,
-                                               IMailSettingsManager,
-                                               IPCBaseProtocol,
-                                               IPartnerTracking,
-                                               IProductSettingsManager,
-                                               IUserSettingsManager,
-                                               Web::IAccountController,
-                                               IHardwareInfo,
-                                               NagScreen::IManager,
-                                               WebSocket::IMessageBroker,
-                                               ExternalStimulus::IGateway,
-                                               Networking::IHttpClient,
-                                               Tracking::GeneralOstrelTracker>;
+using ApplicationContext = IApplicationContext<
+    void, IApplicationSettingsManager, ICustomizationManager, IIdleManager, IInstallerSettingsManager,
+    IInternetConnectionChecker, ILifetimeManager, ILaunchTypeProcessor, ILinksManager, ILookAndFeelManager,
+    IMailSettingsManager, IPCBaseProtocol, IPartnerTracking, IProductSettingsManager, IUserSettingsManager,
+    Web::IAccountController, IHardwareInfo, NagScreen::IManager, WebSocket::IMessageBroker,
+    ExternalStimulus::IGateway, Networking::IHttpClient, Tracking::GeneralOstrelTracker>;
 
 /// The application context: any service is reachable by its interface type.
 class ITopManager : public ApplicationContext

@@ -22,10 +22,7 @@ public:
     bool quitting = false;
 };
 
-LifetimeManager::LifetimeManager()
-    : d(std::make_unique<Impl>())
-{
-}
+LifetimeManager::LifetimeManager() : d(std::make_unique<Impl>()) {}
 
 // Remaining one-shot handlers go first, then the observer list; nobody is told.
 LifetimeManager::~LifetimeManager() = default;

@@ -31,13 +31,13 @@ QAction* findAction(const QMenu* menu, const QString& name)
 } // namespace
 
 MacMenuActionHandler::MacMenuActionHandler(QMenuBar* menuBar, std::function<bool(QWidget*)> canManipulate)
-    : QObject(menuBar)
-    , d(std::make_unique<Impl>())
+    : QObject(menuBar), d(std::make_unique<Impl>())
 {
     d->canManipulate = std::move(canManipulate);
 
     // Each row: the action's name, the slot it triggers (or none) and its shortcut (or none).
-    const auto wire = [this](QMenu* menu, const QString& name, const char* slot, const QKeySequence& shortcut) {
+    const auto wire = [this](QMenu* menu, const QString& name, const char* slot,
+                             const QKeySequence& shortcut) {
         QAction* action = findAction(menu, name);
         if (!action)
             return;
@@ -48,7 +48,8 @@ MacMenuActionHandler::MacMenuActionHandler(QMenuBar* menuBar, std::function<bool
     };
 
     if (auto* appMenu = menuBar->findChild<QMenu*>(QStringLiteral("menuMacOSMenu"))) {
-        wire(appMenu, QStringLiteral("action_Hide"), SLOT(onHideItself()), QKeySequence(Qt::CTRL | Qt::Key_H));
+        wire(appMenu, QStringLiteral("action_Hide"), SLOT(onHideItself()),
+             QKeySequence(Qt::CTRL | Qt::Key_H));
         wire(appMenu, QStringLiteral("action_Hide_Others"), SLOT(onHideOthers()),
              QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_H));
         wire(appMenu, QStringLiteral("action_Preferences"), nullptr, QKeySequence(QKeySequence::Preferences));
@@ -61,7 +62,8 @@ MacMenuActionHandler::MacMenuActionHandler(QMenuBar* menuBar, std::function<bool
     if (auto* windowMenu = menuBar->findChild<QMenu*>(QStringLiteral("menuWindow"))) {
         wire(windowMenu, QStringLiteral("actionMinimize"), SLOT(onMinimize()), QKeySequence());
         wire(windowMenu, QStringLiteral("actionZoom"), SLOT(onZoom()), QKeySequence());
-        wire(windowMenu, QStringLiteral("actionBring_all_to_Front"), SLOT(onBringAllToFront()), QKeySequence());
+        wire(windowMenu, QStringLiteral("actionBring_all_to_Front"), SLOT(onBringAllToFront()),
+             QKeySequence());
     }
 }
 

@@ -12,10 +12,7 @@ namespace Ostrel::App {
 class OnStartHandler : public LifetimeObserver
 {
 public:
-    explicit OnStartHandler(std::function<void()> callback)
-        : m_callback(std::move(callback))
-    {
-    }
+    explicit OnStartHandler(std::function<void()> callback) : m_callback(std::move(callback)) {}
 
     void onStart() override { m_callback(); }
 

@@ -22,8 +22,8 @@ namespace {
 
 const QString& muiCacheKey()
 {
-    static const QString key =
-        QStringLiteral("HKEY_CURRENT_USER\\Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache");
+    static const QString key = QStringLiteral("HKEY_CURRENT_USER\\Software\\Classes\\Local "
+                                              "Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache");
     return key;
 }
 
@@ -51,7 +51,8 @@ QString searchMuiCache(const IBrowserSources& sources, const QString& name)
 QString searchRegisteredBrowsers(const IBrowserSources& sources, const QString& name)
 {
     for (const char* root : {"HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE"}) {
-        const QString clients = QString::fromLatin1(root) + QStringLiteral("\\SOFTWARE\\Clients\\StartMenuInternet");
+        const QString clients =
+            QString::fromLatin1(root) + QStringLiteral("\\SOFTWARE\\Clients\\StartMenuInternet");
         for (const QString& subkey : sources.subkeys(clients)) {
             QString command = sources.defaultValue(clients + QLatin1Char('\\') + subkey +
                                                    QStringLiteral("\\shell\\open\\command"));
@@ -89,7 +90,8 @@ PreferredBrowser::PreferredBrowser(const std::shared_ptr<ILookAndFeelManager>& l
         if (lookAndFeel)
             context.locale = Util::Utf8ToQString(lookAndFeel->GetCurrentLocale());
         if (installerSettings)
-            context.name = Util::Utf8ToQString(installerSettings->GetString(ProductConstants::Browser, std::string()));
+            context.name =
+                Util::Utf8ToQString(installerSettings->GetString(ProductConstants::Browser, std::string()));
         if (productSettings)
             context.path = Util::Utf8ToQString(productSettings->GetString("PreferredBrowser", std::string()));
         return context;
@@ -103,8 +105,7 @@ PreferredBrowser::PreferredBrowser(const std::shared_ptr<IProductSettingsManager
 
 PreferredBrowser::PreferredBrowser(const std::shared_ptr<IProductSettingsManager>& productSettings,
                                    std::shared_ptr<IBrowserSources> sources)
-    : AbstractPreferredBrowser(productSettings)
-    , d(std::make_unique<Impl>())
+    : AbstractPreferredBrowser(productSettings), d(std::make_unique<Impl>())
 {
     d->sources = std::move(sources);
 }

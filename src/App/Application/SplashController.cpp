@@ -10,9 +10,7 @@ namespace Ostrel::App {
 
 SplashController::SplashController(Application* application, ILifetimeManager& lifetimeManager,
                                    std::shared_ptr<ISplash> splash)
-    : QObject(application)
-    , m_application(application)
-    , m_splash(std::move(splash))
+    : QObject(application), m_application(application), m_splash(std::move(splash))
 {
     application->installEventFilter(this);
     lifetimeManager.addOnStartCallback([this]() {
@@ -27,7 +25,8 @@ bool SplashController::eventFilter(QObject* watched, QEvent* event)
 {
     if (m_splash && event->type() == QEvent::ApplicationStateChange) {
         const auto lifetime = m_application->get<ILifetimeManager>();
-        if (lifetime && !lifetime->isStarted() && QGuiApplication::applicationState() == Qt::ApplicationActive)
+        if (lifetime && !lifetime->isStarted() &&
+            QGuiApplication::applicationState() == Qt::ApplicationActive)
             m_splash->dismiss();
     }
     return QObject::eventFilter(watched, event);

@@ -131,7 +131,8 @@ std::vector<Entry> browsersIn(const QStringList& folders, const QString& default
 QString defaultBrowserId()
 {
     const QString config = environmentOr("XDG_CONFIG_HOME", QDir::homePath() + QStringLiteral("/.config"));
-    const auto defaults = readGroup(config + QStringLiteral("/mimeapps.list"), QStringLiteral("Default Applications"));
+    const auto defaults =
+        readGroup(config + QStringLiteral("/mimeapps.list"), QStringLiteral("Default Applications"));
     const auto http = defaults.find(QStringLiteral("x-scheme-handler/http"));
     return http == defaults.end() ? QString() : http->second.section(QLatin1Char(';'), 0, 0);
 }

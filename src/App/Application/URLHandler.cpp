@@ -20,9 +20,7 @@ std::string recorded(const QString& part)
 }
 } // namespace
 
-URLHandler::URLHandler(QObject* parent, PreferredBrowser& browser)
-    : QObject(parent)
-    , m_browser(browser)
+URLHandler::URLHandler(QObject* parent, PreferredBrowser& browser) : QObject(parent), m_browser(browser)
 {
     QDesktopServices::setUrlHandler(QStringLiteral("http"), this, Slot);
     QDesktopServices::setUrlHandler(QStringLiteral("https"), this, Slot);

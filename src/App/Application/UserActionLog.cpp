@@ -14,8 +14,7 @@ namespace {
 
 // The key of `value` in the enumerator of type E ("MouseButtons" of Qt, "Type" of QEvent); empty
 // when the value has no key.
-template <class E>
-QString keyOf(int value)
+template <class E> QString keyOf(int value)
 {
     return QString::fromLatin1(QMetaEnum::fromType<E>().valueToKey(value));
 }
@@ -42,12 +41,14 @@ void LogUserAction(QObject* receiver, QEvent* event)
     } else {
         if (!action)
             return;
-        suffix = QStringLiteral(", shortcut: %1").arg(action->shortcut().toString(QKeySequence::PortableText));
+        suffix =
+            QStringLiteral(", shortcut: %1").arg(action->shortcut().toString(QKeySequence::PortableText));
     }
 
     const QObject* parent = receiver->parent();
     const QString line =
-        QStringLiteral("User action: type=%1, objectName=%2, className=%3, parentObjectName=%4, parentClassName=%5")
+        QStringLiteral(
+            "User action: type=%1, objectName=%2, className=%3, parentObjectName=%4, parentClassName=%5")
             .arg(keyOf<QEvent::Type>(type), receiver->objectName(),
                  QString::fromLatin1(receiver->metaObject()->className()),
                  parent ? parent->objectName() : QString(),

@@ -10,10 +10,25 @@ void Gesture::Consumer::OnGesture(const Rotate&) {}
 void Gesture::Consumer::OnGesture(const Zoom&) {}
 void Gesture::Consumer::OnGesture(const Pan&) {}
 
-int Gesture::Consumer::WantGesture(const PressAndTap&) { return None; }
-int Gesture::Consumer::WantGesture(const Tap&) { return None; }
-int Gesture::Consumer::WantGesture(const Rotate&) { return None; }
-int Gesture::Consumer::WantGesture(const Zoom&) { return None; }
-int Gesture::Consumer::WantGesture(const Pan&) { return None; }
+int Gesture::Consumer::WantGesture(const PressAndTap&)
+{
+    return None;
+}
+int Gesture::Consumer::WantGesture(const Tap&)
+{
+    return None;
+}
+int Gesture::Consumer::WantGesture(const Rotate&)
+{
+    return None;
+}
+int Gesture::Consumer::WantGesture(const Zoom&)
+{
+    return None;
+}
+int Gesture::Consumer::WantGesture(const Pan&)
+{
+    return None;
+}
 
 } // namespace Ostrel::App

@@ -60,8 +60,8 @@ public:
 
     virtual bool GetGestureInfo(void* handle, Info* info) = 0;
     virtual bool CloseGestureInfoHandle(void* handle) = 0;
-    virtual bool SetGestureConfig(void* hwnd, std::uint32_t reserved, std::uint32_t count, ConfigEntry* configs,
-                                  std::uint32_t entrySize) = 0;
+    virtual bool SetGestureConfig(void* hwnd, std::uint32_t reserved, std::uint32_t count,
+                                  ConfigEntry* configs, std::uint32_t entrySize) = 0;
     virtual bool ScreenToClient(void* hwnd, Point* point) = 0;
     virtual void* GetParent(void* hwnd) = 0;
     virtual std::intptr_t DefWindowProcW(void* hwnd, std::uint32_t message, void* wParam, void* lParam) = 0;

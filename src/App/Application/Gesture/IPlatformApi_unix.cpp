@@ -13,7 +13,10 @@ public:
     void readNotifyLocation(void*, std::int16_t* x, std::int16_t* y) override { *x = *y = 0; }
     bool GetGestureInfo(void*, Info*) override { return false; }
     bool CloseGestureInfoHandle(void*) override { return false; }
-    bool SetGestureConfig(void*, std::uint32_t, std::uint32_t, ConfigEntry*, std::uint32_t) override { return false; }
+    bool SetGestureConfig(void*, std::uint32_t, std::uint32_t, ConfigEntry*, std::uint32_t) override
+    {
+        return false;
+    }
     bool ScreenToClient(void*, Point*) override { return false; }
     void* GetParent(void*) override { return nullptr; }
     std::intptr_t DefWindowProcW(void*, std::uint32_t, void*, void*) override { return 0; }

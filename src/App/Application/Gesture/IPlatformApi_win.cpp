@@ -16,7 +16,8 @@ public:
     Message readMessage(void* nativeMessage) override
     {
         const MSG* msg = static_cast<const MSG*>(nativeMessage);
-        return {msg->hwnd, msg->message, reinterpret_cast<void*>(msg->wParam), reinterpret_cast<void*>(msg->lParam)};
+        return {msg->hwnd, msg->message, reinterpret_cast<void*>(msg->wParam),
+                reinterpret_cast<void*>(msg->lParam)};
     }
 
     void readNotifyLocation(void* notifyRecord, std::int16_t* x, std::int16_t* y) override
@@ -48,8 +49,8 @@ public:
     bool SetGestureConfig(void* hwnd, std::uint32_t reserved, std::uint32_t count, ConfigEntry* configs,
                           std::uint32_t entrySize) override
     {
-        return ::SetGestureConfig(static_cast<HWND>(hwnd), reserved, count, reinterpret_cast<PGESTURECONFIG>(configs),
-                                  entrySize) != FALSE;
+        return ::SetGestureConfig(static_cast<HWND>(hwnd), reserved, count,
+                                  reinterpret_cast<PGESTURECONFIG>(configs), entrySize) != FALSE;
     }
 
     bool ScreenToClient(void* hwnd, Point* point) override

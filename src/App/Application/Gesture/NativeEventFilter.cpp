@@ -20,8 +20,7 @@ NativeEventFilter::NativeEventFilter(QObject* parent)
 }
 
 NativeEventFilter::NativeEventFilter(Gesture::IPlatformApi& api, QObject* parent)
-    : QObject(parent)
-    , d(std::make_unique<Impl>())
+    : QObject(parent), d(std::make_unique<Impl>())
 {
     d->api = &api;
 }

@@ -42,8 +42,9 @@ constexpr int PanGutter = 16;
 // Everything blocked until a consumer says otherwise.
 constexpr ConfigEntry InitialConfigs[5] = {
     {GID_ZOOM, 0, 1},
-    {GID_PAN, 0, GC_PAN_WITH_SINGLE_FINGER_VERTICALLY | GC_PAN_WITH_SINGLE_FINGER_HORIZONTALLY | GC_PAN_WITH_GUTTER
-                     | GC_PAN_WITH_INERTIA},
+    {GID_PAN, 0,
+     GC_PAN_WITH_SINGLE_FINGER_VERTICALLY | GC_PAN_WITH_SINGLE_FINGER_HORIZONTALLY | GC_PAN_WITH_GUTTER |
+         GC_PAN_WITH_INERTIA},
     {GID_ROTATE, 0, 1},
     {GID_TWOFINGERTAP, 0, 1},
     {GID_PRESSANDTAP, 0, 1},
@@ -87,8 +88,7 @@ Gesture::IPlatformApi::Point toClient(Gesture::IPlatformApi& api, void* hwnd, st
     return point;
 }
 
-template <typename Record>
-Record withPosition(const Gesture& common)
+template <typename Record> Record withPosition(const Gesture& common)
 {
     Record record;
     static_cast<Gesture&>(record) = common;

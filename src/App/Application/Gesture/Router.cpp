@@ -15,16 +15,9 @@ constexpr std::uint32_t WM_GESTURENOTIFY = 0x011A;
 
 } // namespace
 
-Gesture::Router::Router(QObject* parent)
-    : QObject(parent)
-{
-}
+Gesture::Router::Router(QObject* parent) : QObject(parent) {}
 
-Gesture::Router::Router(QObject* parent, IPlatformApi& api)
-    : QObject(parent)
-    , Producer(api)
-{
-}
+Gesture::Router::Router(QObject* parent, IPlatformApi& api) : QObject(parent), Producer(api) {}
 
 Gesture::Router::~Router() = default;
 

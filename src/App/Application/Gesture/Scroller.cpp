@@ -40,9 +40,7 @@ void keepAtEnd(QScrollBar* bar, const BarPosition& before, QAbstractItemView::Sc
 
 } // namespace
 
-Gesture::Scroller::Scroller(QAbstractScrollArea* area)
-    : Emitter(area)
-    , d(std::make_unique<Impl>())
+Gesture::Scroller::Scroller(QAbstractScrollArea* area) : Emitter(area), d(std::make_unique<Impl>())
 {
     d->area = area;
     d->itemView = qobject_cast<QAbstractItemView*>(area);

@@ -53,11 +53,7 @@ public:
     }
 };
 
-Gesture::TouchPanFilter::TouchPanFilter(QObject* parent)
-    : QObject(parent)
-    , d(std::make_unique<Impl>())
-{
-}
+Gesture::TouchPanFilter::TouchPanFilter(QObject* parent) : QObject(parent), d(std::make_unique<Impl>()) {}
 
 Gesture::TouchPanFilter::~TouchPanFilter() = default;
 
@@ -65,9 +61,8 @@ bool Gesture::TouchPanFilter::eventFilter(QObject* watched, QEvent* event)
 {
     // The window sees the touch before any widget does, whether or not a widget accepts touch.
     const QEvent::Type type = event->type();
-    if (!watched->isWindowType()
-        || (type != QEvent::TouchBegin && type != QEvent::TouchUpdate && type != QEvent::TouchEnd
-            && type != QEvent::TouchCancel))
+    if (!watched->isWindowType() || (type != QEvent::TouchBegin && type != QEvent::TouchUpdate &&
+                                     type != QEvent::TouchEnd && type != QEvent::TouchCancel))
         return false;
 
     auto* touch = static_cast<QTouchEvent*>(event);

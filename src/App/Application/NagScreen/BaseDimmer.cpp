@@ -3,8 +3,7 @@
 namespace Ostrel::App::NagScreen {
 
 BaseDimmer::BaseDimmer(QWidget* parent, QWidget* target, Qt::WindowFlags flags)
-    : QWidget(parent, flags)
-    , m_target(target)
+    : QWidget(parent, flags), m_target(target)
 {
     // A stylesheet background needs this on a plain QWidget.
     setAttribute(Qt::WA_StyledBackground);

@@ -121,7 +121,8 @@ QUrl DefaultActions::PrepareUrl(const AbstractContent& content, const QString& u
     return QUrl(links->GenerateUrl(urlText, macros), QUrl::TolerantMode);
 }
 
-void DefaultActions::DoOpenUrl(const AbstractContent& content, const QUrl& url, const QMap<QString, QVariant>& params)
+void DefaultActions::DoOpenUrl(const AbstractContent& content, const QUrl& url,
+                               const QMap<QString, QVariant>& params)
 {
     if (!AcceptNagLink(url))
         return;
@@ -129,12 +130,14 @@ void DefaultActions::DoOpenUrl(const AbstractContent& content, const QUrl& url, 
         opener->OpenUrl(content, url.url(), params);
 }
 
-void DefaultActions::OpenUrl(const AbstractContent& content, const QUrl& url, const QMap<QString, QVariant>& params)
+void DefaultActions::OpenUrl(const AbstractContent& content, const QUrl& url,
+                             const QMap<QString, QVariant>& params)
 {
     DoOpenUrl(content, PrepareUrl(content, url.toString()), params);
 }
 
-void DefaultActions::OpenUrlKey(const AbstractContent& content, const QString& key, const QMap<QString, QVariant>& params)
+void DefaultActions::OpenUrlKey(const AbstractContent& content, const QString& key,
+                                const QMap<QString, QVariant>& params)
 {
     const auto links = d->linksManager.lock();
     if (!links)
@@ -170,7 +173,8 @@ void DefaultActions::NagClose(const AbstractContent&, int, const QMap<QString, Q
 
 void DefaultActions::ScreenShown(const AbstractContent&, const QMap<QString, QVariant>&) {}
 
-void DefaultActions::PerformCustomAction(const AbstractContent& content, const QString& action, const QVariant& value)
+void DefaultActions::PerformCustomAction(const AbstractContent& content, const QString& action,
+                                         const QVariant& value)
 {
     if (action == QLatin1String("copyPromocode")) {
         CopyPromocode(value.toMap().value(QStringLiteral("promocode")).toString());
@@ -190,7 +194,8 @@ void DefaultActions::PerformCustomAction(const AbstractContent& content, const Q
     }
 }
 
-void DefaultActions::CollectEmail(const QString& name, const QString& email, std::map<std::string, std::string> params)
+void DefaultActions::CollectEmail(const QString& name, const QString& email,
+                                  std::map<std::string, std::string> params)
 {
     const std::map<std::string, std::string> request = {
         {"UserName", Util::QStringToUtf8(name)},

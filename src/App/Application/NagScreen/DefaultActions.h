@@ -53,14 +53,18 @@ public:
 
     void ShowBuyNow(const AbstractContent& content) override;
     void OpenLiveChat(const AbstractContent& content) override;
-    void OpenUrl(const AbstractContent& content, const QUrl& url, const QMap<QString, QVariant>& params) override;
-    void OpenUrlKey(const AbstractContent& content, const QString& key, const QMap<QString, QVariant>& params) override;
-    void PerformButtonAction(const AbstractContent& content, const QString& buttonId, const QVariant& value) override;
+    void OpenUrl(const AbstractContent& content, const QUrl& url,
+                 const QMap<QString, QVariant>& params) override;
+    void OpenUrlKey(const AbstractContent& content, const QString& key,
+                    const QMap<QString, QVariant>& params) override;
+    void PerformButtonAction(const AbstractContent& content, const QString& buttonId,
+                             const QVariant& value) override;
     void NagDontShowClicked(const AbstractContent& content) override;
     void NagClose(const AbstractContent& content, int code, const QMap<QString, QVariant>& params) override;
     /// "copyPromocode" ({"promocode"}) and "collectEmail" ({"email", "name"}); any other name is
     /// logged and dropped.
-    void PerformCustomAction(const AbstractContent& content, const QString& action, const QVariant& value) override;
+    void PerformCustomAction(const AbstractContent& content, const QString& action,
+                             const QVariant& value) override;
     void ScreenShown(const AbstractContent& content, const QMap<QString, QVariant>& params) override;
 
     virtual void SetLinksOpener(const std::shared_ptr<INagLinksOpener>& opener);

@@ -44,10 +44,7 @@ DialogStrategy::DialogStrategy(const std::weak_ptr<WebConfig::INagsSettings>& se
 
 DialogStrategy::~DialogStrategy() = default;
 
-DialogStrategy::DialogStrategy(const DialogStrategy& other)
-    : d(std::make_unique<Impl>(*other.d))
-{
-}
+DialogStrategy::DialogStrategy(const DialogStrategy& other) : d(std::make_unique<Impl>(*other.d)) {}
 
 DialogStrategy::DialogStrategy(DialogStrategy&& other) noexcept
     : d(std::make_unique<Impl>(std::move(*other.d)))
@@ -135,12 +132,14 @@ int DialogStrategy::ShowNag(AbstractContent& content)
     // delete it, also when something throws.
     QWidget* ui = content.GetUi();
     layout->addWidget(ui);
-    BOOST_SCOPE_EXIT_ALL(&layout, ui) {
+    BOOST_SCOPE_EXIT_ALL(&layout, ui)
+    {
         layout->removeWidget(ui);
         ui->setParent(nullptr);
     };
 
-    QObject::connect(&content, &AbstractContent::Finished, &dialog, [&dialog](int code) { dialog.done(code); });
+    QObject::connect(&content, &AbstractContent::Finished, &dialog,
+                     [&dialog](int code) { dialog.done(code); });
     const auto relocate = [this, &dialog, ui]() {
         dialog.adjustSize();
         LocateDialog(&dialog, ui->size());
@@ -164,7 +163,8 @@ int DialogStrategy::ShowNag(AbstractContent& content)
         dimmer->show();
         dimmer->raise();
     }
-    BOOST_SCOPE_EXIT_ALL(&dimmer) {
+    BOOST_SCOPE_EXIT_ALL(&dimmer)
+    {
         if (dimmer) {
             dimmer->hide();
             dimmer->Attach(nullptr, nullptr);

@@ -12,7 +12,8 @@ class DimmingProvider;
 
 /// Makes the file path parameters of any dimmer of `provider` absolute against the folder of the
 /// nag's main file. An absolute value, or a nag that isn't a local file, leaves the value as it is.
-OSTREL_APP_EXPORT void ExpandFilePathParameters(const DimmingProvider& provider, const AbstractContent& content,
+OSTREL_APP_EXPORT void ExpandFilePathParameters(const DimmingProvider& provider,
+                                                const AbstractContent& content,
                                                 QMap<QString, QString>& parameters);
 
 } // namespace Ostrel::App::NagScreen

@@ -7,8 +7,7 @@
 namespace Ostrel::App::NagScreen {
 
 GifDimmer::GifDimmer(QWidget* parent, QWidget* target, Qt::WindowFlags flags)
-    : BaseDimmer(parent, target, flags)
-    , m_movie(new QMovie(this))
+    : BaseDimmer(parent, target, flags), m_movie(new QMovie(this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

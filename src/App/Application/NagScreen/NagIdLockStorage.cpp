@@ -24,7 +24,10 @@ public:
     std::shared_ptr<IProductSettingsManager> settings;
 
     // Without settings nothing can be remembered; a lock is then simply never there.
-    std::string read(const std::string& key) const { return settings ? settings->GetString(key, std::string()) : std::string(); }
+    std::string read(const std::string& key) const
+    {
+        return settings ? settings->GetString(key, std::string()) : std::string();
+    }
 };
 
 NagIdLockStorage::NagIdLockStorage(std::shared_ptr<IProductSettingsManager> settings)
@@ -37,7 +40,8 @@ NagIdLockStorage::NagIdLockStorage(std::shared_ptr<IProductSettingsManager> sett
 
 NagIdLockStorage::~NagIdLockStorage() = default;
 
-std::string NagIdLockStorage::lockNagId(const std::string& action, const std::string& mode, const std::string& nagId)
+std::string NagIdLockStorage::lockNagId(const std::string& action, const std::string& mode,
+                                        const std::string& nagId)
 {
     std::lock_guard<std::mutex> lock(d->mutex);
     const std::string key = lockKey(action, mode);
@@ -53,7 +57,8 @@ std::string NagIdLockStorage::getLockedNagId(const std::string& action, const st
     return d->read(lockKey(action, mode));
 }
 
-std::string NagIdLockStorage::cleanupNagId(const std::string& action, const std::string& mode, const std::string& nagId)
+std::string NagIdLockStorage::cleanupNagId(const std::string& action, const std::string& mode,
+                                           const std::string& nagId)
 {
     std::lock_guard<std::mutex> lock(d->mutex);
     const std::string key = lockKey(action, mode);

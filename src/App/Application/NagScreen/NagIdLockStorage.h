@@ -20,9 +20,11 @@ public:
     NagIdLockStorage(const NagIdLockStorage&) = delete;
     NagIdLockStorage& operator=(const NagIdLockStorage&) = delete;
 
-    std::string lockNagId(const std::string& action, const std::string& mode, const std::string& nagId) override;
+    std::string lockNagId(const std::string& action, const std::string& mode,
+                          const std::string& nagId) override;
     std::string getLockedNagId(const std::string& action, const std::string& mode) const override;
-    std::string cleanupNagId(const std::string& action, const std::string& mode, const std::string& nagId) override;
+    std::string cleanupNagId(const std::string& action, const std::string& mode,
+                             const std::string& nagId) override;
 
 private:
     class Impl;

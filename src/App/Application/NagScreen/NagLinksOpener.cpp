@@ -7,10 +7,7 @@
 
 namespace Ostrel::App::NagScreen {
 
-NagLinksOpener::NagLinksOpener(const std::weak_ptr<ILinksOpener>& opener)
-    : m_opener(opener)
-{
-}
+NagLinksOpener::NagLinksOpener(const std::weak_ptr<ILinksOpener>& opener) : m_opener(opener) {}
 
 NagLinksOpener::~NagLinksOpener() = default;
 

@@ -20,7 +20,8 @@ public:
     explicit NagLinksOpener(const std::weak_ptr<ILinksOpener>& opener);
     ~NagLinksOpener() override;
 
-    void OpenUrl(const AbstractContent& content, const QString& url, const QMap<QString, QVariant>& params) override;
+    void OpenUrl(const AbstractContent& content, const QString& url,
+                 const QMap<QString, QVariant>& params) override;
     void OpenUrl(const AbstractContent& content, URLKeys key, const QMap<QString, QVariant>& params) override;
 
 private:
@@ -28,6 +29,7 @@ private:
 };
 
 /// The nag side's view of a links opener.
-OSTREL_APP_EXPORT std::shared_ptr<INagLinksOpener> fromLinksOpener(const std::shared_ptr<ILinksOpener>& opener);
+OSTREL_APP_EXPORT std::shared_ptr<INagLinksOpener>
+fromLinksOpener(const std::shared_ptr<ILinksOpener>& opener);
 
 } // namespace Ostrel::App::NagScreen

@@ -78,8 +78,8 @@ void FindLinkKey(Params& map, const QString& urlText)
         if (found == templates.end() || found->second.empty())
             continue;
         const QUrl candidate(Util::Utf8ToQString(found->second), QUrl::TolerantMode);
-        if (withoutQuery(candidate) == clickedBase
-            && QUrlQuery(candidate).queryItemValue(QStringLiteral("asrc")) == clickedAsrc) {
+        if (withoutQuery(candidate) == clickedBase &&
+            QUrlQuery(candidate).queryItemValue(QStringLiteral("asrc")) == clickedAsrc) {
             map["NAG_LINK_URL_KEY"] = name;
             return;
         }
@@ -134,9 +134,7 @@ std::string screenScale()
 class OperationScope
 {
 public:
-    OperationScope(QString& current, const QString& name)
-        : m_current(current)
-        , m_saved(current)
+    OperationScope(QString& current, const QString& name) : m_current(current), m_saved(current)
     {
         m_current = name;
     }
@@ -160,12 +158,8 @@ public:
                           Core::NotNull<std::shared_ptr<IShowStrategy>> show,
                           Core::NotNull<std::shared_ptr<INagLinksOpener>> opener,
                           Core::NotNull<std::shared_ptr<ILinksManager>> links)
-        : m_top(top)
-        , m_tracker(std::move(tracker))
-        , m_actions(std::move(actions))
-        , m_show(std::move(show))
-        , m_opener(std::move(opener))
-        , m_links(std::move(links))
+        : m_top(top), m_tracker(std::move(tracker)), m_actions(std::move(actions)), m_show(std::move(show)),
+          m_opener(std::move(opener)), m_links(std::move(links))
     {
     }
 
@@ -226,19 +220,22 @@ public:
         m_actions->OpenLiveChat(content);
     }
 
-    void OpenUrl(const AbstractContent& content, const QUrl& url, const QMap<QString, QVariant>& params) override
+    void OpenUrl(const AbstractContent& content, const QUrl& url,
+                 const QMap<QString, QVariant>& params) override
     {
         const OperationScope operation(m_currentOperation, QStringLiteral("OpenUrl"));
         m_actions->OpenUrl(content, url, params);
     }
 
-    void OpenUrlKey(const AbstractContent& content, const QString& key, const QMap<QString, QVariant>& params) override
+    void OpenUrlKey(const AbstractContent& content, const QString& key,
+                    const QMap<QString, QVariant>& params) override
     {
         const OperationScope operation(m_currentOperation, QStringLiteral("OpenUrlKey"));
         m_actions->OpenUrlKey(content, key, params);
     }
 
-    void PerformButtonAction(const AbstractContent& content, const QString& buttonId, const QVariant& value) override
+    void PerformButtonAction(const AbstractContent& content, const QString& buttonId,
+                             const QVariant& value) override
     {
         track("NAG_BUTTON_CLICK", content, &value,
               [&](Params& event) { event["BUTTON_ID"] = Util::QStringToUtf8(buttonId); });
@@ -261,7 +258,8 @@ public:
         m_actions->NagClose(content, code, params);
     }
 
-    void PerformCustomAction(const AbstractContent& content, const QString& action, const QVariant& value) override
+    void PerformCustomAction(const AbstractContent& content, const QString& action,
+                             const QVariant& value) override
     {
         // An address or a survey answer is the user's own: it never goes to the tracker.
         const bool personal =
@@ -281,7 +279,8 @@ public:
     }
 
     // INagLinksOpener
-    void OpenUrl(const AbstractContent& content, const QString& url, const QMap<QString, QVariant>& params) override
+    void OpenUrl(const AbstractContent& content, const QString& url,
+                 const QMap<QString, QVariant>& params) override
     {
         const QVariant values(params);
         track("NAG_LINK_CLICK", content, &values, [&](Params& event) {
@@ -296,7 +295,8 @@ public:
         const QVariant values(params);
         track("NAG_LINK_CLICK", content, &values, [&](Params& event) {
             const auto name = UrlKeyNames().find(key);
-            event["NAG_LINK_URL_KEY"] = name != UrlKeyNames().end() ? name->second : std::to_string(static_cast<int>(key));
+            event["NAG_LINK_URL_KEY"] =
+                name != UrlKeyNames().end() ? name->second : std::to_string(static_cast<int>(key));
             ReadLink(event, m_links->GetUrl(key), m_currentOperation);
         });
         m_opener->OpenUrl(content, key, params);
@@ -360,18 +360,20 @@ private:
 
 } // namespace
 
-void setupNagScreenEventHandler(const ITopManager& top, const std::shared_ptr<Tracking::IApplicationTracker>& tracker)
+void setupNagScreenEventHandler(const ITopManager& top,
+                                const std::shared_ptr<Tracking::IApplicationTracker>& tracker)
 {
     const auto manager = requiredComponent<IManager>(top, "setupNagScreenEventHandler");
     if (!manager)
         throw std::logic_error("setupNagScreenEventHandler: the application has no nag manager");
     const auto actions = std::dynamic_pointer_cast<DefaultActions>(manager->GetActionStrategy());
     if (!actions)
-        throw std::logic_error("setupNagScreenEventHandler: the nag manager's action strategy is not DefaultActions");
+        throw std::logic_error(
+            "setupNagScreenEventHandler: the nag manager's action strategy is not DefaultActions");
 
-    const auto handler = std::make_shared<NagScreenEventHandler>(top, tracker, manager->GetActionStrategy(),
-                                                                 manager->GetShowStrategy(), actions->GetLinksOpener(),
-                                                                 actions->GetLinksManager());
+    const auto handler = std::make_shared<NagScreenEventHandler>(
+        top, tracker, manager->GetActionStrategy(), manager->GetShowStrategy(), actions->GetLinksOpener(),
+        actions->GetLinksManager());
     manager->SetActionStrategy(handler);
     manager->SetShowStrategy(handler);
     actions->SetLinksOpener(handler);

@@ -24,7 +24,8 @@ namespace Ostrel::App::NagScreen {
 ///
 /// Throws std::logic_error when the context has no nag manager, when its action strategy isn't a
 /// DefaultActions, or when a strategy, the links opener or the links manager is missing.
-OSTREL_APP_EXPORT void setupNagScreenEventHandler(const ITopManager& top,
-                                                  const std::shared_ptr<Tracking::IApplicationTracker>& tracker);
+OSTREL_APP_EXPORT void
+setupNagScreenEventHandler(const ITopManager& top,
+                           const std::shared_ptr<Tracking::IApplicationTracker>& tracker);
 
 } // namespace Ostrel::App::NagScreen

@@ -83,10 +83,7 @@ QString differing(const QString& character)
 class NagScreenTestForm::Impl
 {
 public:
-    explicit Impl(const Core::NotNull<std::shared_ptr<IManager>>& managerIn)
-        : manager(managerIn)
-    {
-    }
+    explicit Impl(const Core::NotNull<std::shared_ptr<IManager>>& managerIn) : manager(managerIn) {}
 
     QComboBox* comboBox = nullptr;
     QPushButton* showButton = nullptr;
@@ -108,8 +105,7 @@ public:
 };
 
 NagScreenTestForm::NagScreenTestForm(const Core::NotNull<std::shared_ptr<IManager>>& manager, QWidget* parent)
-    : QWidget(parent)
-    , d(std::make_unique<Impl>(manager))
+    : QWidget(parent), d(std::make_unique<Impl>(manager))
 {
     setWindowTitle(tr("Nag Screen Tester"));
 
@@ -126,8 +122,8 @@ NagScreenTestForm::NagScreenTestForm(const Core::NotNull<std::shared_ptr<IManage
     d->stateLabel = new QLabel(this);
     d->stateLabel->setObjectName(QStringLiteral("currentActionState_label"));
     d->stateLabel->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    d->stateLabel->setStyleSheet(QStringLiteral(
-        "QLabel { font-size: 12px; background: #0f0f0f; color: #f5f5f5; padding: 3px; border-radius: 4px; }"));
+    d->stateLabel->setStyleSheet(QStringLiteral("QLabel { font-size: 12px; background: #0f0f0f; color: "
+                                                "#f5f5f5; padding: 3px; border-radius: 4px; }"));
 
     d->progressBar = new QProgressBar(this);
     d->progressBar->setObjectName(QStringLiteral("nagReload_progressBar"));
@@ -136,7 +132,8 @@ NagScreenTestForm::NagScreenTestForm(const Core::NotNull<std::shared_ptr<IManage
     d->progressBar->setAlignment(Qt::AlignCenter);
     d->progressBar->setFormat(tr("Reloading: %v/%m"));
     d->progressBar->setStyleSheet(QStringLiteral(
-        "QProgressBar { font-size: 12px; min-height: 23px; max-height: 23px; background: #0f0f0f; color: #f5f5f5; "
+        "QProgressBar { font-size: 12px; min-height: 23px; max-height: 23px; background: #0f0f0f; color: "
+        "#f5f5f5; "
         "border-radius: 4px; } QProgressBar::chunk { background-color: #415bdc; border-radius: 4px; }"));
 
     d->hashLabel = new QLabel(this);
@@ -283,7 +280,8 @@ void NagScreenTestForm::chooseCustomPath()
     if (file.isEmpty())
         return;
     d->lastPath = QFileInfo(file).absolutePath();
-    QSettings(QCoreApplication::organizationName(), settingsApplication()).setValue(lastPathKey(), d->lastPath);
+    QSettings(QCoreApplication::organizationName(), settingsApplication())
+        .setValue(lastPathKey(), d->lastPath);
     d->overrides[action] = file;
     d->manager->OverrideNagPath(action, file);
     updateCurrentActionStateLabel();

@@ -15,7 +15,9 @@ namespace Ostrel::App::NagScreen {
 /// "Nag Screen Tester": a developer's window that shows the nag of any action at once, replaces
 /// it by a local main.qml, reloads every nag with a progress bar, and shows the rendered nag's
 /// fingerprint next to the one stored in it, differences in red.
-class OSTREL_APP_EXPORT NagScreenTestForm : public QWidget, private Core::ComponentSetterObserver, public IManagerObserver
+class OSTREL_APP_EXPORT NagScreenTestForm : public QWidget,
+                                            private Core::ComponentSetterObserver,
+                                            public IManagerObserver
 {
     Q_OBJECT
 public:

@@ -14,9 +14,7 @@ namespace {
 class FocusOnShow : public QObject
 {
 public:
-    FocusOnShow(QDialog* dialog, QWidget* view)
-        : QObject(dialog)
-        , m_view(view)
+    FocusOnShow(QDialog* dialog, QWidget* view) : QObject(dialog), m_view(view)
     {
         dialog->installEventFilter(this);
     }

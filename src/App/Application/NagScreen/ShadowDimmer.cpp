@@ -14,9 +14,7 @@ QColor defaultColor()
 } // namespace
 
 ShadowDimmer::ShadowDimmer(QWidget* parent, QWidget* target, Qt::WindowFlags flags)
-    : BaseDimmer(parent, target, flags)
-    , m_blur(new QGraphicsBlurEffect(this))
-    , m_color(defaultColor())
+    : BaseDimmer(parent, target, flags), m_blur(new QGraphicsBlurEffect(this)), m_color(defaultColor())
 {
     m_blur->setBlurRadius(250.0);
     setGraphicsEffect(m_blur);
@@ -80,7 +78,8 @@ void ShadowDimmer::paintEvent(QPaintEvent*)
     target->render(&pixmap, QPoint(0, 0), QRegion(), QWidget::DrawWindowBackground | QWidget::DrawChildren);
     pixmap = pixmap.scaled(size.width() + 2 * m_shadowPadding, size.height() + 2 * m_shadowPadding,
                            Qt::IgnoreAspectRatio, Qt::FastTransformation);
-    const QPoint position = mapFromGlobal(target->mapToGlobal(QPoint(0, 0))) - QPoint(m_shadowPadding, m_shadowPadding);
+    const QPoint position =
+        mapFromGlobal(target->mapToGlobal(QPoint(0, 0))) - QPoint(m_shadowPadding, m_shadowPadding);
     if (!m_originalColor) {
         QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
         const QRgb silhouette = m_color.rgba();

@@ -34,8 +34,7 @@ const char* productAppName()
 }
 
 // Stays beside requiredComponent: that one only logs, while an address without the component is wrong.
-template <class T>
-std::shared_ptr<T> required(const ITopManager& top, const char* what)
+template <class T> std::shared_ptr<T> required(const ITopManager& top, const char* what)
 {
     auto component = requiredComponent<T>(top, "WebNagUrlGenerator");
     if (!component)
@@ -68,23 +67,22 @@ const QString& WebNagUrlGenerator::QueryTemplate()
     return query;
 }
 
-WebNagUrlGenerator::WebNagUrlGenerator(const ITopManager& top, const std::shared_ptr<INagIdLockStorage>& storage)
-    : m_appName(QString::fromLatin1(productAppName()))
-    , m_top(top)
-    , m_storage(storage)
+WebNagUrlGenerator::WebNagUrlGenerator(const ITopManager& top,
+                                       const std::shared_ptr<INagIdLockStorage>& storage)
+    : m_appName(QString::fromLatin1(productAppName())), m_top(top), m_storage(storage)
 {
     const auto customization = top.get<ICustomizationManager>();
     if (m_appName.isEmpty() && customization)
         m_appName = Util::Utf8ToQString(customization->GetInternalId());
     if (customization)
-        m_appVersion = Util::GenerateApplicationVisibleVersion(customization->GetVersion()).replace(QLatin1Char('.'), QLatin1Char('-'));
+        m_appVersion = Util::GenerateApplicationVisibleVersion(customization->GetVersion())
+                           .replace(QLatin1Char('.'), QLatin1Char('-'));
     else
         LOG(ERROR) << "The web nag URL has no product version: the customization manager is not set yet";
 }
 
 WebNagUrlGenerator::WebNagUrlGenerator(const ITopManager& top, const QString& appName)
-    : m_appName(appName)
-    , m_top(top)
+    : m_appName(appName), m_top(top)
 {
 }
 

@@ -38,8 +38,8 @@ QList<QCommandLineOption> ConnectionTest::getCLO() const
     return {internetOption()};
 }
 
-std::shared_ptr<IInternetConnectionChecker> ConnectionTest::replaceIfNeeded(
-    const std::shared_ptr<IInternetConnectionChecker>& checker)
+std::shared_ptr<IInternetConnectionChecker>
+ConnectionTest::replaceIfNeeded(const std::shared_ptr<IInternetConnectionChecker>& checker)
 {
     if (!m_internetDisabled)
         return checker;

@@ -26,8 +26,8 @@ public:
     QList<QCommandLineOption> getCLO() const override;
 
     /// `checker` itself, or, with the option set, an offline fake to put in its place.
-    std::shared_ptr<IInternetConnectionChecker> replaceIfNeeded(
-        const std::shared_ptr<IInternetConnectionChecker>& checker);
+    std::shared_ptr<IInternetConnectionChecker>
+    replaceIfNeeded(const std::shared_ptr<IInternetConnectionChecker>& checker);
 
 private:
     bool m_internetDisabled = false;

@@ -50,12 +50,14 @@ const QCommandLineOption& threadOption()
 
 // The option's value (its default when absent) if `allowed` holds it, compared case-sensitively;
 // else empty, with the reason in the log.
-QString checkedValue(const QCommandLineParser& parser, const QCommandLineOption& option, const QStringList& allowed)
+QString checkedValue(const QCommandLineParser& parser, const QCommandLineOption& option,
+                     const QStringList& allowed)
 {
     const QString value = parser.value(option);
     if (allowed.contains(value))
         return value;
-    LOG(ERROR) << Util::QStringToUtf8(QStringLiteral("%1 isn't supported value for %2").arg(value, option.names().first()));
+    LOG(ERROR) << Util::QStringToUtf8(
+        QStringLiteral("%1 isn't supported value for %2").arg(value, option.names().first()));
     return QString();
 }
 
@@ -105,8 +107,8 @@ void CrashTest::run(const QCommandLineParser& parser)
     const QString thread = checkedValue(parser, threadOption(), crashThreads());
     if (thread.isEmpty())
         return;
-    LOG(WARNING) << "Crash test armed: " << Util::QStringToUtf8(reason) << " on the " << Util::QStringToUtf8(thread)
-                 << " thread in " << timeout << " ms";
+    LOG(WARNING) << "Crash test armed: " << Util::QStringToUtf8(reason) << " on the "
+                 << Util::QStringToUtf8(thread) << " thread in " << timeout << " ms";
     // Without a context object; this overload picks the timer type Qt's default gives for `timeout`.
     QTimer::singleShot(timeout, [reason, thread]() {
         if (thread == QLatin1String("main")) {

@@ -22,8 +22,9 @@ public:
 
     /// The installed locales that the option asks for, "ru_RU", "de_DE" and "en_US" first. The
     /// order of the option's list doesn't matter; a locale that isn't installed is left out.
-    std::list<std::string> selectedLocales(const QCommandLineParser& parser,
-                                           const std::shared_ptr<ILookAndFeelManager>& lookAndFeelManager) const;
+    std::list<std::string>
+    selectedLocales(const QCommandLineParser& parser,
+                    const std::shared_ptr<ILookAndFeelManager>& lookAndFeelManager) const;
 };
 
 } // namespace Ostrel::App

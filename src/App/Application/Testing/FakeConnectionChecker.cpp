@@ -2,10 +2,7 @@
 
 namespace Ostrel::App {
 
-FakeConnectionChecker::FakeConnectionChecker(bool connected)
-    : m_connected(connected)
-{
-}
+FakeConnectionChecker::FakeConnectionChecker(bool connected) : m_connected(connected) {}
 
 FakeConnectionChecker::~FakeConnectionChecker() = default;
 

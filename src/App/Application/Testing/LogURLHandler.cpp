@@ -12,8 +12,7 @@ public:
 };
 
 LogURLHandler::LogURLHandler(QObject* parent, const QString& path)
-    : QObject(parent)
-    , d(std::make_unique<Impl>())
+    : QObject(parent), d(std::make_unique<Impl>())
 {
     d->file = std::make_unique<QFile>(path);
     if (!d->file->open(QIODevice::WriteOnly))

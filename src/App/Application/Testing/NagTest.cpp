@@ -31,15 +31,16 @@ namespace {
 const QCommandLineOption& delayOption()
 {
     static const QCommandLineOption option(QStringLiteral("test-show-nag-delay"),
-                                           QStringLiteral("Set show nag delay in ms"), QStringLiteral("delay"),
-                                           QStringLiteral("1000"));
+                                           QStringLiteral("Set show nag delay in ms"),
+                                           QStringLiteral("delay"), QStringLiteral("1000"));
     return option;
 }
 
 const QCommandLineOption& screensOption()
 {
     static const QCommandLineOption option(QStringLiteral("test-nag-screens"),
-                                           QStringLiteral("Get NagScreens screenshots"), QStringLiteral("appActions"));
+                                           QStringLiteral("Get NagScreens screenshots"),
+                                           QStringLiteral("appActions"));
     return option;
 }
 
@@ -53,7 +54,8 @@ const QCommandLineOption& groupOption()
 const QCommandLineOption& dirOption()
 {
     static const QCommandLineOption option(QStringLiteral("test-nag-screens-dir"),
-                                           QStringLiteral("NagScreens screenshots dir"), QStringLiteral("dir"));
+                                           QStringLiteral("NagScreens screenshots dir"),
+                                           QStringLiteral("dir"));
     return option;
 }
 
@@ -98,8 +100,8 @@ public:
 
     void prepare(TestNagContext& context) const;
     void walk(const TestNagContext& context) const;
-    void show(NagScreen::AbstractContent& content, const QString& folder, const QString& name, const QString& locale,
-              int delay, NagHashTable& hashes) const;
+    void show(NagScreen::AbstractContent& content, const QString& folder, const QString& name,
+              const QString& locale, int delay, NagHashTable& hashes) const;
 };
 
 void NagTest::Impl::prepare(TestNagContext& context) const
@@ -115,7 +117,8 @@ void NagTest::Impl::prepare(TestNagContext& context) const
         LOG(ERROR) << "Nag screen manager is not configured";
         return;
     }
-    for (const QString& mode : {NagScreen::AppMode::Free(), NagScreen::AppMode::Trial(), NagScreen::AppMode::Licensed()})
+    for (const QString& mode :
+         {NagScreen::AppMode::Free(), NagScreen::AppMode::Trial(), NagScreen::AppMode::Licensed()})
         context.actions[mode] = config->ActionsForMode(mode);
     if (context.appActions.isEmpty())
         return;
@@ -134,9 +137,10 @@ void NagTest::Impl::walk(const TestNagContext& context) const
         return;
     }
     const std::string previousLocale = lookAndFeelManager->GetCurrentLocale();
-    const QString root = context.dir.isEmpty()
-                             ? QDir::toNativeSeparators(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation))
-                             : context.dir;
+    const QString root =
+        context.dir.isEmpty()
+            ? QDir::toNativeSeparators(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation))
+            : context.dir;
     const QString separator = QDir::separator();
     // root/NagScreenshots/<locale>/<module>/, or root/NagScreenshots/<module>/ for all locales together.
     const QString nameTemplate = root + separator + QStringLiteral("NagScreenshots") + separator +
@@ -169,16 +173,19 @@ void NagTest::Impl::walk(const TestNagContext& context) const
                 const NagScreen::NagContext nagContext{action, mode, 1};
                 const QString name =
                     (context.path.isEmpty()
-                         ? mode + QLatin1Char('-') + NagScreen::ImplName(record.implementation) + QLatin1Char('-') + action
+                         ? mode + QLatin1Char('-') + NagScreen::ImplName(record.implementation) +
+                               QLatin1Char('-') + action
                          : QFileInfo(context.path).absoluteDir().dirName()) +
                     suffix;
                 std::printf("Nag %d/%d (%s): %s\n", ++done, total, qPrintable(locale), qPrintable(name));
                 std::fflush(stdout);
                 QString webUrl = QStringLiteral("UNDEFINED");
-                std::unique_ptr<NagScreen::AbstractContent> content = factory->Create(record.implementation, nagContext);
+                std::unique_ptr<NagScreen::AbstractContent> content =
+                    factory->Create(record.implementation, nagContext);
                 if (content) {
                     QEventLoop loop;
-                    QObject::connect(content.get(), &NagScreen::AbstractContent::StateChanged, &loop, &QEventLoop::quit);
+                    QObject::connect(content.get(), &NagScreen::AbstractContent::StateChanged, &loop,
+                                     &QEventLoop::quit);
                     if (context.path.isEmpty())
                         content->Load();
                     else
@@ -272,8 +279,8 @@ void NagTest::setPictureDelay(std::chrono::milliseconds delay)
 
 QList<QCommandLineOption> NagTest::getCLO() const
 {
-    return QList<QCommandLineOption>{delayOption(), screensOption(), groupOption(), dirOption(), pathOption(),
-                                     helperOption()} +
+    return QList<QCommandLineOption>{delayOption(), screensOption(), groupOption(),
+                                     dirOption(),   pathOption(),    helperOption()} +
            d->locales.getCLO();
 }
 

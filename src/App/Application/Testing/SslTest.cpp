@@ -12,15 +12,17 @@ namespace {
 
 const QCommandLineOption& disableOption()
 {
-    static const QCommandLineOption option(QStringList{QStringLiteral("test-ssl-disable"), QStringLiteral("ssl-disable")},
-                                           QStringLiteral("Use http when possible"));
+    static const QCommandLineOption option(
+        QStringList{QStringLiteral("test-ssl-disable"), QStringLiteral("ssl-disable")},
+        QStringLiteral("Use http when possible"));
     return option;
 }
 
 const QCommandLineOption& enableOption()
 {
-    static const QCommandLineOption option(QStringList{QStringLiteral("test-ssl-enable"), QStringLiteral("ssl-enable")},
-                                           QStringLiteral("Use https when possible"));
+    static const QCommandLineOption option(
+        QStringList{QStringLiteral("test-ssl-enable"), QStringLiteral("ssl-enable")},
+        QStringLiteral("Use https when possible"));
     return option;
 }
 

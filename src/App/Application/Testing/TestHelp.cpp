@@ -14,16 +14,14 @@ namespace {
 
 const QCommandLineOption& helpOption()
 {
-    static const QCommandLineOption option(QStringLiteral("test-help"), QStringLiteral("Show help for test options"));
+    static const QCommandLineOption option(QStringLiteral("test-help"),
+                                           QStringLiteral("Show help for test options"));
     return option;
 }
 
 } // namespace
 
-TestHelp::TestHelp(Testing* testing)
-    : m_testing(testing)
-{
-}
+TestHelp::TestHelp(Testing* testing) : m_testing(testing) {}
 
 TestHelp::~TestHelp() = default;
 

@@ -20,7 +20,8 @@ namespace Ostrel::App {
 void StorePixmap(const QPixmap& pixmap, const QString& folder, const QString& name)
 {
     const QString fileName = folder + name + QStringLiteral(".time-") +
-                             QTime::currentTime().toString(QStringLiteral("hh.mm.ss.zzz")) + QStringLiteral(".png");
+                             QTime::currentTime().toString(QStringLiteral("hh.mm.ss.zzz")) +
+                             QStringLiteral(".png");
     QFile file(fileName);
     if (file.open(QIODevice::WriteOnly)) {
         pixmap.save(&file, "PNG");
@@ -74,7 +75,8 @@ QString NagHashReport(const NagHashTable& table)
             }
             // An empty computed hash gives 0/0: "nan" says plainly that nothing could be compared.
             const double percent = distance * 100.0 / computed.size();
-            text += QStringLiteral("distance: ") + QString::number(static_cast<double>(distance), 'g', 6) + end;
+            text +=
+                QStringLiteral("distance: ") + QString::number(static_cast<double>(distance), 'g', 6) + end;
             text += QStringLiteral("distance (%): ") + QString::number(percent, 'g', 6) + end;
         }
     }

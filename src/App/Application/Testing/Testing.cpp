@@ -19,8 +19,7 @@ namespace Ostrel::App {
 class Testing::Impl : public LifetimeObserver
 {
 public:
-    explicit Impl(const Core::NotNull<std::shared_ptr<ILifetimeManager>>& manager)
-        : lifetimeManager(manager)
+    explicit Impl(const Core::NotNull<std::shared_ptr<ILifetimeManager>>& manager) : lifetimeManager(manager)
     {
         lifetimeManager->RegisterEventHandler(this);
     }

@@ -31,28 +31,30 @@ namespace {
 
 const QCommandLineOption& dumpOption()
 {
-    static const QCommandLineOption option(QStringLiteral("test-dump-urls"), QStringLiteral("Write URLs to dump file"));
+    static const QCommandLineOption option(QStringLiteral("test-dump-urls"),
+                                           QStringLiteral("Write URLs to dump file"));
     return option;
 }
 
 const QCommandLineOption& openOption()
 {
-    static const QCommandLineOption option(QStringLiteral("test-open-urls"), QStringLiteral("Open URLs in browser"));
+    static const QCommandLineOption option(QStringLiteral("test-open-urls"),
+                                           QStringLiteral("Open URLs in browser"));
     return option;
 }
 
 const QCommandLineOption& logOption()
 {
-    static const QCommandLineOption option(QStringLiteral("test-log-urls"), QStringLiteral("Log opened URLs to file"),
-                                           QStringLiteral("path"));
+    static const QCommandLineOption option(QStringLiteral("test-log-urls"),
+                                           QStringLiteral("Log opened URLs to file"), QStringLiteral("path"));
     return option;
 }
 
 const QCommandLineOption& delayOption()
 {
     static const QCommandLineOption option(QStringLiteral("test-open-urls-delay"),
-                                           QStringLiteral("Set open url delay in ms"), QStringLiteral("delay"),
-                                           QStringLiteral("1000"));
+                                           QStringLiteral("Set open url delay in ms"),
+                                           QStringLiteral("delay"), QStringLiteral("1000"));
     return option;
 }
 
@@ -227,7 +229,8 @@ void UrlTest::run(const QCommandLineParser& parser)
 
 QList<QCommandLineOption> UrlTest::getCLO() const
 {
-    return QList<QCommandLineOption>{dumpOption(), openOption(), logOption(), delayOption()} + d->locales.getCLO();
+    return QList<QCommandLineOption>{dumpOption(), openOption(), logOption(), delayOption()} +
+           d->locales.getCLO();
 }
 
 QString UrlTest::dumpFilePath() const

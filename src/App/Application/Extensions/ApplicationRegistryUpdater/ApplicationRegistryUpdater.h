@@ -14,7 +14,8 @@ class IProductSettingsManager;
 class OSTREL_APP_EXPORT ApplicationRegistryUpdater : public Extension
 {
 public:
-    explicit ApplicationRegistryUpdater(const std::shared_ptr<IProductSettingsManager>& productSettingsManager);
+    explicit ApplicationRegistryUpdater(
+        const std::shared_ptr<IProductSettingsManager>& productSettingsManager);
     ~ApplicationRegistryUpdater() override;
 
     void onStart() override;

@@ -19,8 +19,7 @@ class AutoUpdateRequester::Impl
 public:
     Impl(const std::shared_ptr<ICustomizationManager>& customization,
          const std::shared_ptr<IProductSettingsManager>& settings)
-        : customizationManager(customization)
-        , productSettingsManager(settings)
+        : customizationManager(customization), productSettingsManager(settings)
     {
     }
     Core::NotNull<std::shared_ptr<ICustomizationManager>> customizationManager;
@@ -31,8 +30,9 @@ public:
     QObject timerContext;
 };
 
-AutoUpdateRequester::AutoUpdateRequester(const std::shared_ptr<ICustomizationManager>& customizationManager,
-                                         const std::shared_ptr<IProductSettingsManager>& productSettingsManager)
+AutoUpdateRequester::AutoUpdateRequester(
+    const std::shared_ptr<ICustomizationManager>& customizationManager,
+    const std::shared_ptr<IProductSettingsManager>& productSettingsManager)
     : d(std::make_unique<Impl>(customizationManager, productSettingsManager))
 {
 }

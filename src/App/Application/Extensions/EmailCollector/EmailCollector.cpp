@@ -49,12 +49,9 @@ public:
          const std::shared_ptr<ILaunchTypeProcessor>& launchType,
          const std::shared_ptr<ExternalStimulus::IGateway>& gatewayArgument,
          const std::shared_ptr<Networking::IHttpClient>& httpClient)
-        : customizationManager(customization)
-        , linksManager(links)
-        , mailSettingsManager(mail)
-        , launchTypeProcessor(launchType)
-        , gateway(gatewayArgument)
-        , sender(std::make_unique<EmailSender>(linksManager.get(), httpClient, mailSettingsManager.get()))
+        : customizationManager(customization), linksManager(links), mailSettingsManager(mail),
+          launchTypeProcessor(launchType), gateway(gatewayArgument),
+          sender(std::make_unique<EmailSender>(linksManager.get(), httpClient, mailSettingsManager.get()))
     {
     }
 
@@ -76,8 +73,8 @@ EmailCollector::EmailCollector(const std::shared_ptr<ICustomizationManager>& cus
                                const std::shared_ptr<ILaunchTypeProcessor>& launchTypeProcessor,
                                const std::shared_ptr<ExternalStimulus::IGateway>& gateway,
                                const std::shared_ptr<Networking::IHttpClient>& httpClient)
-    : d(std::make_unique<Impl>(customizationManager, linksManager, mailSettingsManager, launchTypeProcessor, gateway,
-                               httpClient))
+    : d(std::make_unique<Impl>(customizationManager, linksManager, mailSettingsManager, launchTypeProcessor,
+                               gateway, httpClient))
 {
 }
 
@@ -126,8 +123,8 @@ void EmailCollector::showEmailDialog() const
     if (!needCollectEmail())
         return;
     const std::unique_ptr<AbstractEmailDialog> dialog =
-        EmailDialogCreator::Create(d->mailSettingsManager.get(), d->linksManager.get(), d->customizationManager.get(),
-                                   Util::SpontaneousDialog::GetMainWindow());
+        EmailDialogCreator::Create(d->mailSettingsManager.get(), d->linksManager.get(),
+                                   d->customizationManager.get(), Util::SpontaneousDialog::GetMainWindow());
     if (!dialog) {
         LOG(ERROR) << "Failed to create Email Dialog Impl";
         return;

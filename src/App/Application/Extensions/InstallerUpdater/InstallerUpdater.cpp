@@ -12,8 +12,7 @@ namespace Ostrel::App {
 class InstallerUpdater::Impl
 {
 public:
-    explicit Impl(const std::shared_ptr<IProductSettingsManager>& settings)
-        : productSettingsManager(settings)
+    explicit Impl(const std::shared_ptr<IProductSettingsManager>& settings) : productSettingsManager(settings)
     {
     }
     Core::NotNull<std::shared_ptr<IProductSettingsManager>> productSettingsManager;

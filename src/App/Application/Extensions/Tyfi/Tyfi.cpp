@@ -33,12 +33,9 @@ public:
          const std::shared_ptr<IProductSettingsManager>& productSettings,
          const std::shared_ptr<ILaunchTypeProcessor>& launchType,
          const std::shared_ptr<ExternalStimulus::IGateway>& gatewayArgument)
-        : customizationManager(customization)
-        , linksManager(links)
-        , installerSettingsManager(installerSettings)
-        , productSettingsManager(productSettings)
-        , launchTypeProcessor(launchType)
-        , gateway(gatewayArgument)
+        : customizationManager(customization), linksManager(links),
+          installerSettingsManager(installerSettings), productSettingsManager(productSettings),
+          launchTypeProcessor(launchType), gateway(gatewayArgument)
     {
     }
 
@@ -103,8 +100,8 @@ Tyfi::Tyfi(const std::shared_ptr<ICustomizationManager>& customizationManager,
            const std::shared_ptr<IProductSettingsManager>& productSettingsManager,
            const std::shared_ptr<ILaunchTypeProcessor>& launchTypeProcessor,
            const std::shared_ptr<ExternalStimulus::IGateway>& gateway)
-    : d(std::make_unique<Impl>(customizationManager, linksManager, installerSettingsManager, productSettingsManager,
-                               launchTypeProcessor, gateway))
+    : d(std::make_unique<Impl>(customizationManager, linksManager, installerSettingsManager,
+                               productSettingsManager, launchTypeProcessor, gateway))
 {
 }
 
