@@ -5,7 +5,7 @@
 set -euo pipefail
 
 packages=(
-  build-essential cmake ninja-build pkg-config
+  build-essential cmake ninja-build pkg-config ccache
   qtbase5-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools
   qttranslations5-l10n  # Qt's own dialog texts in every product locale (copied into the resource tree)
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
