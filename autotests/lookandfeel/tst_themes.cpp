@@ -4,6 +4,7 @@
 #include "App/Application/LookAndFeelManager.h"
 #include "Interfaces/IQssPreprocessor.h"
 
+#include "Contrast.h"
 #include "EnglishLookAndFeel.h"
 #include "LogCapture.h"
 #include "TestEnvironment.h"
@@ -16,6 +17,8 @@
 #include <QRegularExpression>
 #include <QResource>
 #include <QTemporaryDir>
+
+#include <map>
 
 using namespace Ostrel;
 using namespace Ostrel::App;
@@ -230,6 +233,51 @@ private slots:
         QCOMPARE(applicationFontFamilies(), families);
         manager->SetTheme(std::string());
         QFontDatabase::removeAllApplicationFonts();
+    }
+
+    // Every text colour of a theme's composed style against the background it is drawn on: its own
+    // rule's, else the one of the widget its selector starts from, else the window's (WCAG AA).
+    void themesReadAsWcagAsks_data() { themesRegisterTheFontsTheyCarry_data(); }
+    void themesReadAsWcagAsks()
+    {
+        QFETCH(QString, theme);
+        const auto manager = realTree();
+        manager->Initialize("en_US", theme.toStdString());
+        const QString style = sheet(*manager);
+        const QRegularExpression rule(QStringLiteral(R"(([^{}/]+)\{([^}]*)\})"));
+        const QRegularExpression colour(
+            QStringLiteral(R"((?:^|;)\s*(color|background-color|background)\s*:\s*(#[0-9a-fA-F]{6}))"));
+        std::map<QString, QColor> backgrounds;
+        std::vector<std::pair<QString, QColor>> texts;
+        for (auto block = rule.globalMatch(style); block.hasNext();) {
+            const auto match = block.next();
+            QColor text;
+            QColor background;
+            for (auto property = colour.globalMatch(match.captured(2)); property.hasNext();) {
+                const auto found = property.next();
+                (found.captured(1) == QLatin1String("color") ? text : background) = QColor(found.captured(2));
+            }
+            for (QString selector : match.captured(1).split(QLatin1Char(','))) {
+                selector = selector.trimmed();
+                if (background.isValid())
+                    backgrounds[selector] = background;
+                if (text.isValid())
+                    texts.emplace_back(selector, text);
+            }
+        }
+        QVERIFY(backgrounds.count(QStringLiteral("QMainWindow")));
+        QVERIFY(texts.size() >= 5);
+        for (const auto& [selector, text] : texts) {
+            const auto own = backgrounds.find(selector);
+            const auto outer = backgrounds.find(selector.section(QLatin1Char(' '), 0, 0));
+            const QColor behind = own != backgrounds.end() ? own->second
+                                  : outer != backgrounds.end()
+                                      ? outer->second
+                                      : backgrounds.at(QStringLiteral("QMainWindow"));
+            const double ratio = Test::contrastRatio(text, behind);
+            QVERIFY2(ratio >= 4.5, qPrintable(selector + QStringLiteral(": ") + QString::number(ratio)));
+        }
+        manager->SetTheme(std::string());
     }
 
     void unknownThemeComposesOnlyTheProductFiles()

@@ -11,15 +11,20 @@
 #include "Nag/NagManager.h"
 #include "Nag/QuickContent.h"
 
+#include "Contrast.h"
 #include "MemorySettings.h"
 #include "NagModelData.h"
 #include "TestEnvironment.h"
 
+#include <QAccessible>
 #include <QFile>
 #include <QFontDatabase>
+#include <QJSValue>
 #include <QPainter>
+#include <QQmlListReference>
 #include <QQuickItem>
 #include <QQuickWidget>
+#include <QQuickWindow>
 #include <QRegularExpression>
 
 #include <map>
@@ -83,6 +88,142 @@ QString writeMap(QTemporaryDir& dir)
     file.open(QIODevice::WriteOnly);
     file.write(MapJson);
     return path;
+}
+
+const char* const Locales[] = {"de_DE", "en_US", "es_ES", "fr_FR", "it_IT", "ja_JP", "ko_KR",
+                               "nl_NL", "pl_PL", "pt_BR", "ru_RU", "tr_TR", "zh_CN", "zh_TW"};
+
+std::unique_ptr<QuickContent> loadShipped(const QString& folder, const QString& locale = QString())
+{
+    ContentEnvironment environment;
+    if (!locale.isEmpty())
+        environment.locale = [locale]() { return locale; };
+    auto content = std::make_unique<QuickContent>(
+        NagContext{folder, QStringLiteral("free")},
+        QUrl(QStringLiteral("qrc:/NagScreen/") + folder + QStringLiteral("/main.qml")), environment);
+    content->Load();
+    return content;
+}
+
+QQuickItem* rootItem(const AbstractContent& content)
+{
+    return qobject_cast<QQuickWidget*>(content.GetUi())->rootObject();
+}
+
+// Every node a screen reader reaches from `node`, depth first, so in reading order.
+void accessibleNodes(QAccessibleInterface* node, QList<QAccessibleInterface*>& nodes)
+{
+    nodes << node;
+    for (int i = 0; i < node->childCount(); ++i) {
+        if (QAccessibleInterface* child = node->child(i))
+            accessibleNodes(child, nodes);
+    }
+}
+
+// The nodes a user presses, in reading order.
+QList<QAccessibleInterface*> controls(QWidget* window)
+{
+    QList<QAccessibleInterface*> nodes;
+    accessibleNodes(QAccessible::queryAccessibleInterface(window), nodes);
+    QList<QAccessibleInterface*> result;
+    for (QAccessibleInterface* node : nodes) {
+        if (node->state().focusable && node->object() != window && !node->object()->isWidgetType())
+            result << node;
+    }
+    return result;
+}
+
+QString focusedName(const AbstractContent& content)
+{
+    QQuickItem* item = qobject_cast<QQuickWidget*>(content.GetUi())->quickWindow()->activeFocusItem();
+    return item ? QAccessible::queryAccessibleInterface(item)->text(QAccessible::Name) : QString();
+}
+
+// A rectangle's gradient, which QML hands over as a script value.
+QObject* gradientOf(const QQuickItem* rectangle)
+{
+    return rectangle->property("gradient").value<QJSValue>().toQObject();
+}
+
+// The colour a rectangle paints at `y` of its own height: its colour, or its vertical gradient.
+QColor paintAt(const QQuickItem* rectangle, qreal y)
+{
+    QObject* gradient = gradientOf(rectangle);
+    if (!gradient)
+        return rectangle->property("color").value<QColor>();
+    QQmlListReference stops(gradient, "stops");
+    const qreal at = qBound<qreal>(0, y / rectangle->height(), 1);
+    QObject* before = stops.at(0);
+    for (int i = 0; i < stops.count(); ++i) {
+        QObject* after = stops.at(i);
+        const qreal position = after->property("position").toReal();
+        if (position >= at) {
+            const qreal from = before->property("position").toReal();
+            const double t = position > from ? (at - from) / (position - from) : 1;
+            return Ostrel::Test::blend(after->property("color").value<QColor>(),
+                                       before->property("color").value<QColor>(), t);
+        }
+        before = after;
+    }
+    return before->property("color").value<QColor>();
+}
+
+bool isPainted(const QQuickItem* item)
+{
+    return item->inherits("QQuickRectangle") &&
+           (gradientOf(item) || item->property("color").value<QColor>().alpha() == 255);
+}
+
+// The topmost painted rectangle of `item` and what it holds at `point` (scene coordinates).
+const QQuickItem* paintedAt(const QQuickItem* item, const QPointF& point)
+{
+    const QList<QQuickItem*> children = item->childItems();
+    for (auto child = children.rbegin(); child != children.rend(); ++child) {
+        if ((*child)->isVisible() && (*child)->contains((*child)->mapFromScene(point)))
+            if (const QQuickItem* found = paintedAt(*child, point))
+                return found;
+    }
+    return isPainted(item) ? item : nullptr;
+}
+
+// The lowest contrast of a text against the painted rectangle under its middle, over the text's
+// height (a gradient changes along it), with the opacity of the text and its parents.
+double textContrast(const QQuickItem* text)
+{
+    QColor colour = text->property("color").value<QColor>();
+    if (text->property("textFormat").toInt() == 1 /* Text.RichText */ &&
+        text->property("text").toString().contains(QLatin1String("<a ")))
+        colour = text->property("linkColor").value<QColor>();
+    double alpha = colour.alphaF();
+    for (const QQuickItem* item = text; item; item = item->parentItem())
+        alpha *= item->opacity();
+    const QPointF middle = text->mapToScene(QPointF(text->width() / 2, text->height() / 2));
+    const QQuickItem* under = nullptr;
+    for (const QQuickItem* item = text; !under && item->parentItem(); item = item->parentItem()) {
+        const QList<QQuickItem*> siblings = item->parentItem()->childItems();
+        for (int i = siblings.indexOf(const_cast<QQuickItem*>(item)) - 1; !under && i >= 0; --i) {
+            if (siblings.at(i)->isVisible() && siblings.at(i)->contains(siblings.at(i)->mapFromScene(middle)))
+                under = paintedAt(siblings.at(i), middle);
+        }
+        if (!under && isPainted(item->parentItem()))
+            under = item->parentItem();
+    }
+    if (!under)
+        return 0;
+    double lowest = 21;
+    for (const qreal y : {qreal(0), text->height()}) {
+        const QColor behind = paintAt(under, text->mapToItem(under, QPointF(0, y)).y());
+        lowest =
+            qMin(lowest, Ostrel::Test::contrastRatio(Ostrel::Test::blend(colour, behind, alpha), behind));
+    }
+    return lowest;
+}
+
+// WCAG's large text: 18 points, or 14 points in bold (a point is 4/3 px).
+bool isLargeText(const QQuickItem* text)
+{
+    const QFont font = text->property("font").value<QFont>();
+    return font.pixelSize() >= 24 || (font.bold() && font.pixelSize() * 3 >= 14 * 4);
 }
 
 } // namespace
@@ -317,38 +458,44 @@ private Q_SLOTS:
     void shippedNagsFollowTheConventions_data()
     {
         QTest::addColumn<QString>("folder");
-        QTest::newRow("app_start") << "app_start";
-        QTest::newRow("app_close") << "app_close";
-        QTest::newRow("before_routine") << "before_routine";
+        QTest::addColumn<int>("secondCode"); // what pressing the second control ends the nag with
+        QTest::newRow("app_start") << "app_start" << 0;
+        QTest::newRow("app_close") << "app_close" << 0;
+        QTest::newRow("before_routine") << "before_routine" << 1;
     }
     void shippedNagsFollowTheConventions()
     {
         QFETCH(QString, folder);
+        QFETCH(int, secondCode);
         const QString base = QStringLiteral(":/NagScreen/") + folder;
-        QuickContent content(NagContext{folder, QStringLiteral("free")},
-                             QUrl(QStringLiteral("qrc") + base + QStringLiteral("/main.qml")),
-                             ContentEnvironment());
-        QSignalSpy finished(&content, &AbstractContent::Finished);
-        content.Load();
-        QCOMPARE(content.State(), ContentState::Ready);
-        QCOMPARE(content.GetUi()->size(), QSize(850, 472));
-        QVERIFY(!content.Id().isEmpty());
+        const auto content = loadShipped(folder);
+        QSignalSpy finished(content.get(), &AbstractContent::Finished);
+        QCOMPARE(content->State(), ContentState::Ready);
+        QCOMPARE(content->GetUi()->size(), QSize(850, 472));
+        QVERIFY(!content->Id().isEmpty());
 
         // Every text draws with the family the library registered itself (the machine may have it
         // too, or not), unhinted and rendered by Qt, so the pixels are the same on every machine.
+        // And it reads against what is behind it (WCAG 2.1 AA).
         QStringList registered;
         for (int id = 0; id < 16; ++id)
             registered += QFontDatabase::applicationFontFamilies(id);
         QVERIFY(registered.contains(QStringLiteral("DejaVu Sans")));
-        const QList<QQuickItem*> texts =
-            textItems(qobject_cast<QQuickWidget*>(content.GetUi())->rootObject());
+        const QList<QQuickItem*> texts = textItems(rootItem(*content));
         QVERIFY(texts.size() >= 8);
+        double lowest = 21;
         for (const QQuickItem* text : texts) {
             const QFont font = text->property("font").value<QFont>();
             QCOMPARE(font.family(), QStringLiteral("DejaVu Sans"));
             QCOMPARE(font.hintingPreference(), QFont::PreferNoHinting);
             QCOMPARE(text->property("renderType").toInt(), 0); // Text.QtRendering
+            const double ratio = textContrast(text);
+            QVERIFY2(ratio >= (isLargeText(text) ? 3.0 : 4.5),
+                     qPrintable(text->property("text").toString() + QStringLiteral(": ") +
+                                QString::number(ratio)));
+            lowest = qMin(lowest, ratio);
         }
+        qInfo("%s: lowest text contrast %.2f:1", qPrintable(folder), lowest);
 
         // Every tag in all fourteen locales.
         QFile translations(base + QStringLiteral("/TranslationUtils.js"));
@@ -357,19 +504,120 @@ private Q_SLOTS:
         const int tags = script.count(
             QRegularExpression(QString::fromLatin1(Json7()), QRegularExpression::MultilineOption));
         QVERIFY(tags >= 5);
-        for (const char* locale : {"de_DE", "en_US", "es_ES", "fr_FR", "it_IT", "ja_JP", "ko_KR", "nl_NL",
-                                   "pl_PL", "pt_BR", "ru_RU", "tr_TR", "zh_CN", "zh_TW"})
+        for (const char* locale : Locales)
             QCOMPARE(script.count(QLatin1String("\"") + QLatin1String(locale) + QLatin1String("\":")), tags);
 
-        // Escape closes with 0, once, whatever follows.
-        content.GetUi()->show();
-        QVERIFY(QTest::qWaitForWindowExposed(content.GetUi()));
-        content.GetUi()->activateWindow();
-        content.GetUi()->setFocus();
-        QTest::keyClick(content.GetUi(), Qt::Key_Escape);
-        QTest::keyClick(content.GetUi(), Qt::Key_Escape);
+        // By keyboard: shown, the nag holds the focus with no control marked (the first frame is
+        // the one a mouse user sees); Tab walks the controls in reading order and round again,
+        // Shift+Tab back, each marked; Space on the close control ends the nag as Escape does.
+        const auto show = [](AbstractContent& nag) {
+            nag.GetUi()->show();
+            QVERIFY(QTest::qWaitForWindowExposed(nag.GetUi()));
+            nag.GetUi()->activateWindow();
+            nag.GetUi()->setFocus();
+            QTRY_VERIFY(rootItem(nag)->hasActiveFocus());
+        };
+        auto* view = qobject_cast<QQuickWidget*>(content->GetUi());
+        show(*content);
+        const QImage unmarked = view->grabFramebuffer();
+        QStringList order;
+        for (QAccessibleInterface* control : controls(view))
+            order << control->text(QAccessible::Name);
+        QCOMPARE(order.size(), 5);
+        QStringList walked;
+        for (int i = 0; i < order.size(); ++i) {
+            QTest::keyClick(view, Qt::Key_Tab);
+            walked << focusedName(*content);
+        }
+        QCOMPARE(walked, order);
+        QVERIFY(view->grabFramebuffer() != unmarked);
+        QTest::keyClick(view, Qt::Key_Tab);
+        QCOMPARE(focusedName(*content), order.first());
+        QTest::keyClick(view, Qt::Key_Backtab);
+        QCOMPARE(focusedName(*content), order.last());
+        QTest::keyClick(view, Qt::Key_Space);
         QCOMPARE(finished.size(), 1);
         QCOMPARE(finished.at(0).at(0).toInt(), 0);
+
+        // Escape closes with 0, once, whatever follows.
+        const auto escaped = loadShipped(folder);
+        QSignalSpy escapedFinished(escaped.get(), &AbstractContent::Finished);
+        show(*escaped);
+        QTest::keyClick(escaped->GetUi(), Qt::Key_Escape);
+        QTest::keyClick(escaped->GetUi(), Qt::Key_Escape);
+        QCOMPARE(escapedFinished.size(), 1);
+        QCOMPARE(escapedFinished.at(0).at(0).toInt(), 0);
+
+        // Enter presses the control that has the focus, not the nag's own default.
+        const auto entered = loadShipped(folder);
+        QSignalSpy enteredFinished(entered.get(), &AbstractContent::Finished);
+        show(*entered);
+        QTest::keyClick(entered->GetUi(), Qt::Key_Tab);
+        QTest::keyClick(entered->GetUi(), Qt::Key_Tab);
+        QTest::keyClick(entered->GetUi(), Qt::Key_Return);
+        QCOMPARE(enteredFinished.size(), 1);
+        QCOMPARE(enteredFinished.at(0).at(0).toInt(), secondCode);
+    }
+
+    // What a screen reader finds in each shipped nag in each locale: a dialog named by the nag's
+    // title, every control with a role and a name in the nag's language, on screen where the
+    // control is, and every text with its words (never its markup).
+    void shippedNagsSpeakToScreenReaders_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("locale");
+        for (const char* folder : {"app_start", "app_close", "before_routine"}) {
+            for (const char* locale : Locales)
+                QTest::addRow("%s %s", folder, locale)
+                    << QString::fromLatin1(folder) << QString::fromLatin1(locale);
+        }
+    }
+    void shippedNagsSpeakToScreenReaders()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, locale);
+        const auto content = loadShipped(folder, locale);
+        QCOMPARE(content->State(), ContentState::Ready);
+        QWidget* view = content->GetUi();
+        view->move(40, 30);
+        view->show();
+        QVERIFY(QTest::qWaitForWindowExposed(view));
+
+        QList<QAccessibleInterface*> nodes;
+        accessibleNodes(QAccessible::queryAccessibleInterface(view), nodes);
+        const QString title = rootItem(*content)
+                                  ->findChild<QQuickItem*>(QStringLiteral("body"))
+                                  ->childItems()
+                                  .value(0)
+                                  ->property("text")
+                                  .toString();
+        const auto dialog = std::find_if(nodes.begin(), nodes.end(), [](QAccessibleInterface* node) {
+            return node->role() == QAccessible::Dialog;
+        });
+        QVERIFY(dialog != nodes.end());
+        QCOMPARE((*dialog)->text(QAccessible::Name), title);
+        QVERIFY(!title.isEmpty());
+        const QRect screen(view->mapToGlobal(QPoint(0, 0)), view->size());
+        for (QAccessibleInterface* node : nodes) {
+            const QString name = node->text(QAccessible::Name);
+            if (node->role() == QAccessible::StaticText)
+                QVERIFY2(!name.isEmpty() && !name.contains(QLatin1Char('<')), qPrintable(name));
+        }
+        const QList<QAccessibleInterface*> pressable = controls(view);
+        QCOMPARE(pressable.size(), 5);
+        for (QAccessibleInterface* control : pressable) {
+            const QString name = control->text(QAccessible::Name);
+            const QString where = QStringLiteral("%1 (role %2)").arg(name).arg(control->role());
+            QVERIFY2(control->role() == QAccessible::Button || control->role() == QAccessible::Link,
+                     qPrintable(where));
+            QVERIFY2(!name.trimmed().isEmpty() && !name.contains(QLatin1Char('<')), qPrintable(where));
+            QVERIFY2(screen.contains(control->rect()), qPrintable(where));
+            QVERIFY(control->actionInterface()->actionNames().contains(
+                QAccessibleActionInterface::pressAction()));
+        }
+        // The close control reads in the nag's language, like everything else in it.
+        QCOMPARE(pressable.last()->text(QAccessible::Name) == QLatin1String("Close"),
+                 locale == QLatin1String("en_US"));
     }
 
     // Each shipped nag in each locale whose text the library's own fonts draw: every text stays
@@ -391,18 +639,14 @@ private Q_SLOTS:
     {
         QFETCH(QString, folder);
         QFETCH(QString, locale);
-        ContentEnvironment environment;
-        environment.locale = [locale]() { return locale; };
-        QuickContent content(NagContext{folder, QStringLiteral("free")},
-                             QUrl(QStringLiteral("qrc:/NagScreen/") + folder + QStringLiteral("/main.qml")),
-                             environment);
-        content.Load();
+        const auto loaded = loadShipped(folder, locale);
+        QuickContent& content = *loaded;
         QCOMPARE(content.State(), ContentState::Ready);
         QSignalSpy rendered(&content, &AbstractContent::Rendered);
         content.GetUi()->show();
         QVERIFY(rendered.wait());
 
-        QQuickItem* root = qobject_cast<QQuickWidget*>(content.GetUi())->rootObject();
+        QQuickItem* root = rootItem(content);
         const QRectF nag(0, 0, root->width(), root->height());
         for (QQuickItem* text : textItems(root)) {
             if (!text->isVisible() || text->property("text").toString().isEmpty())

@@ -31,6 +31,7 @@
 #include <QDialog>
 #include <QFile>
 #include <QMainWindow>
+#include <QQuickItem>
 #include <QQuickWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -248,6 +249,43 @@ private Q_SLOTS:
         QCOMPARE(hash.at("NAG_HASH_MATCH"), std::string("32/32"));
         QVERIFY(hash.at("NAG_COMPUTED_HASH") != firstFingerprint);
         QCOMPARE(events[3].params.at("NAG_ID"), std::string("road_3"));
+    }
+    // By keyboard alone: Escape ends a shipped nag with the very tracking its close control gives,
+    // and the close control is reached from the nag's focus by Shift+Tab and pressed with Space.
+    void escapeIsTrackedAsTheCloseControl()
+    {
+        manager->OverrideNagPath(QStringLiteral("keyboard"),
+                                 QStringLiteral(":/NagScreen/app_close/main.qml"));
+        std::vector<std::map<std::string, std::string>> closes;
+        for (const bool escape : {true, false}) {
+            tracker->clear();
+            QTimer keys;
+            keys.setInterval(20);
+            connect(&keys, &QTimer::timeout, this, [&]() {
+                QQuickWidget* nag = shownNag();
+                if (!nag || !nag->rootObject() || !nag->rootObject()->hasActiveFocus())
+                    return;
+                keys.stop();
+                if (escape) {
+                    QTest::keyClick(nag, Qt::Key_Escape);
+                } else {
+                    QTest::keyClick(nag, Qt::Key_Backtab);
+                    QTest::keyClick(nag, Qt::Key_Space);
+                }
+            });
+            keys.start();
+            QTimer::singleShot(20000, &keys, []() {
+                if (QWidget* nag = shownNag())
+                    nag->window()->close();
+            });
+            QCOMPARE(manager->ShowNag(QStringLiteral("keyboard")), 2);
+            const auto events = roadEvents();
+            QVERIFY(!events.empty());
+            QCOMPARE(events.back().name, std::string("NAG_CLOSE"));
+            closes.push_back(events.back().params);
+        }
+        QCOMPARE(closes.at(0), closes.at(1));
+        QCOMPARE(closes.at(0).at("NAG_EXIT"), std::string("0"));
     }
 };
 

@@ -6,6 +6,7 @@
 #include "Nag/NagCallback_p.h"
 #include "Nag/NagEngineAccess_p.h"
 #include "Nag/NagFonts.h"
+#include "Nag/QuickWidgetAccessible_p.h"
 
 #include <glog/logging.h>
 
@@ -41,6 +42,7 @@ QmlContent::QmlContent(const NagContext& context, ContentEnvironment environment
     : AbstractContent(context, std::move(environment), parent), d(std::make_unique<Impl>())
 {
     RegisterNagFonts();
+    QuickWidgetAccessible::install();
     d->callback = new NagCallback(*this);
     d->view = new QQuickWidget;
     d->view->setObjectName(QStringLiteral("NagView"));

@@ -16,6 +16,7 @@
 
 #include <boost/scope_exit.hpp>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDialog>
 #include <QHBoxLayout>
@@ -132,6 +133,9 @@ int DialogStrategy::ShowNag(AbstractContent& content)
     // delete it, also when something throws.
     QWidget* ui = content.GetUi();
     layout->addWidget(ui);
+    // The window is frameless and untitled: a screen reader announces it by the nag's own name.
+    if (QAccessibleInterface* nag = QAccessible::queryAccessibleInterface(ui); nag && nag->childCount() > 0)
+        dialog.setAccessibleName(nag->child(0)->text(QAccessible::Name));
     BOOST_SCOPE_EXIT_ALL(&layout, ui)
     {
         layout->removeWidget(ui);

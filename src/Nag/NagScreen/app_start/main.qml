@@ -3,6 +3,7 @@ import "TranslationUtils.js" as TU
 import "../common/qmlStyle.js" as Style
 import "../common/Fingerprint.js" as Fingerprint
 import "Fingerprints.js" as Published
+import "../common"
 
 // Greets the user after start and shows the three things the product is used for most.
 Item {
@@ -10,6 +11,10 @@ Item {
     width: 850
     height: 472
     focus: true
+    // A screen reader announces the nag as a dialog with its title; Tab walks its controls in the
+    // order they read, the close button last.
+    Accessible.role: Accessible.Dialog
+    Accessible.name: title.text
 
     readonly property string nag_id: "app_start_welcome_1"
     readonly property string nag_name: "Welcome tour"
@@ -77,7 +82,6 @@ Item {
                 anchors { horizontalCenter: parent.horizontalCenter; top: screen.bottom; topMargin: 22 }
                 text: "\u25CF REC  00:42"
                 color: "#ffffff"
-                opacity: 0.85
                 font { family: Style.fontFamily; pixelSize: 13; bold: true; letterSpacing: 1; hintingPreference: Font.PreferNoHinting }
             }
         }
@@ -89,6 +93,7 @@ Item {
             spacing: 16
 
             Text {
+                id: title
                 renderType: Text.QtRendering
                 width: parent.width
                 wrapMode: Text.WordWrap
@@ -114,7 +119,7 @@ Item {
                         spacing: 10
                         Rectangle {
                             width: 18; height: 18; radius: 9; color: "#e4edfd"
-                            Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2713"; color: "#2f6fd6"; font { family: Style.fontFamily; pixelSize: 12; bold: true; hintingPreference: Font.PreferNoHinting } }
+                            Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2713"; color: "#2862c6"; Accessible.ignored: true; font { family: Style.fontFamily; pixelSize: 12; bold: true; hintingPreference: Font.PreferNoHinting } }
                         }
                         Text { renderType: Text.QtRendering; width: body.width - 28; wrapMode: Text.WordWrap; text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
                     }
@@ -134,6 +139,7 @@ Item {
                 color: primaryArea.pressed ? "#2257b8" : (primaryArea.containsMouse ? "#2a66d1" : "#2f6fd6")
                 Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Start capturing"); color: "#ffffff"; font { family: Style.fontFamily; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.accept() }
+                KeyControl { name: primaryLabel.text; onActivated: root.accept() }
             }
             Rectangle {
                 width: Math.min(buttons.width, Math.max(110, laterLabel.implicitWidth + 40)); height: 44; radius: 6
@@ -141,6 +147,7 @@ Item {
                 border.color: "#cdd5e3"
                 Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Later"); color: "#3b4863"; font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: laterArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
+                KeyControl { name: laterLabel.text; onActivated: root.close() }
             }
         }
 
@@ -155,15 +162,17 @@ Item {
             font { family: Style.fontFamily; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
             onLinkActivated: root.openLink(root.whatsNewUrl)
             MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; cursorShape: Qt.PointingHandCursor }
+            KeyControl { role: Accessible.Link; name: parent.text.replace(/<[^>]*>/g, ""); onActivated: parent.linkActivated("#") }
         }
         Text {
             renderType: Text.QtRendering
             id: dontShowLabel
             anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
             text: TU.getLocalizedText("Don't show again")
-            color: dontShowArea.containsMouse ? "#4a5670" : "#8a94a8"
+            color: dontShowArea.containsMouse ? "#4a5670" : "#647086"
             font { family: Style.fontFamily; pixelSize: 12; hintingPreference: Font.PreferNoHinting }
             MouseArea { id: dontShowArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.dontShow() }
+            KeyControl { name: dontShowLabel.text; onActivated: root.dontShow() }
         }
     }
 
@@ -173,8 +182,9 @@ Item {
         anchors.top: parent.top
         anchors.topMargin: 12
         color: closeArea.containsMouse ? "#eef1f6" : "transparent"
-        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
+        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; Accessible.ignored: true; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
         MouseArea { id: closeArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
+        KeyControl { name: TU.getLocalizedText("Close"); onActivated: root.close() }
     }
 
     Component.onCompleted: {

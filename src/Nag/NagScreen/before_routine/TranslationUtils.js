@@ -5,6 +5,22 @@
 var locale = "";
 
 var translationMap = {
+    "Close": {
+        "de_DE": "Schließen",
+        "en_US": "Close",
+        "es_ES": "Cerrar",
+        "fr_FR": "Fermer",
+        "it_IT": "Chiudi",
+        "ja_JP": "閉じる",
+        "ko_KR": "닫기",
+        "nl_NL": "Sluiten",
+        "pl_PL": "Zamknij",
+        "pt_BR": "Fechar",
+        "ru_RU": "Закрыть",
+        "tr_TR": "Kapat",
+        "zh_CN": "关闭",
+        "zh_TW": "關閉"
+    },
     "Your export will carry a watermark": {
         "de_DE": "Ihr Export erhält ein Wasserzeichen",
         "en_US": "Your export will carry a watermark",

@@ -3,6 +3,7 @@ import "TranslationUtils.js" as TU
 import "../common/qmlStyle.js" as Style
 import "../common/Fingerprint.js" as Fingerprint
 import "Fingerprints.js" as Published
+import "../common"
 
 // Shown before an export of the free edition: the file will be marked, the full edition removes it.
 Item {
@@ -10,6 +11,10 @@ Item {
     width: 850
     height: 472
     focus: true
+    // A screen reader announces the nag as a dialog with its title; Tab walks its controls in the
+    // order they read, the close button last.
+    Accessible.role: Accessible.Dialog
+    Accessible.name: title.text
 
     readonly property string nag_id: "before_routine_watermark_1"
     readonly property string nag_name: "Watermark before export"
@@ -43,7 +48,7 @@ Item {
             radius: 10
             gradient: Gradient {
                 GradientStop { position: 0.0; color: "#0f5c54" }
-                GradientStop { position: 1.0; color: "#1fa58f" }
+                GradientStop { position: 1.0; color: "#178c79" }
             }
             Rectangle {
                 id: screen
@@ -78,7 +83,6 @@ Item {
                 anchors { horizontalCenter: parent.horizontalCenter; top: screen.bottom; topMargin: 22 }
                 text: "\u00A9 watermark"
                 color: "#ffffff"
-                opacity: 0.85
                 font { family: Style.fontFamily; pixelSize: 14; italic: true; hintingPreference: Font.PreferNoHinting }
             }
         }
@@ -90,6 +94,7 @@ Item {
             spacing: 16
 
             Text {
+                id: title
                 renderType: Text.QtRendering
                 width: parent.width
                 wrapMode: Text.WordWrap
@@ -117,9 +122,10 @@ Item {
             Rectangle {
                 id: primary
                 width: Math.min(buttons.width, Math.max(170, primaryLabel.implicitWidth + 48)); height: 44; radius: 6
-                color: primaryArea.pressed ? "#0d6b5c" : (primaryArea.containsMouse ? "#117d6b" : "#138a76")
+                color: primaryArea.pressed ? "#0b6154" : (primaryArea.containsMouse ? "#0d7060" : "#0f7d6b")
                 Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Remove watermark"); color: "#ffffff"; font { family: Style.fontFamily; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.buyNow() }
+                KeyControl { name: primaryLabel.text; onActivated: root.buyNow() }
             }
             Rectangle {
                 width: Math.min(buttons.width, Math.max(110, laterLabel.implicitWidth + 40)); height: 44; radius: 6
@@ -127,6 +133,7 @@ Item {
                 border.color: "#cdd5e3"
                 Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Export with watermark"); color: "#3b4863"; font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: laterArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.accept() }
+                KeyControl { name: laterLabel.text; onActivated: root.accept() }
             }
         }
 
@@ -137,19 +144,21 @@ Item {
             wrapMode: Text.WordWrap
             text: TU.getLocalizedText("<a href=\"#\">Why is there a watermark?</a>")
             textFormat: Text.RichText
-            linkColor: "#138a76"
+            linkColor: "#0f7d6b"
             font { family: Style.fontFamily; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
             onLinkActivated: root.openLink(root.whyUrl)
             MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; cursorShape: Qt.PointingHandCursor }
+            KeyControl { role: Accessible.Link; name: parent.text.replace(/<[^>]*>/g, ""); onActivated: parent.linkActivated("#") }
         }
         Text {
             renderType: Text.QtRendering
             id: dontShowLabel
             anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
             text: TU.getLocalizedText("Don't show again")
-            color: dontShowArea.containsMouse ? "#4a5670" : "#8a94a8"
+            color: dontShowArea.containsMouse ? "#4a5670" : "#647086"
             font { family: Style.fontFamily; pixelSize: 12; hintingPreference: Font.PreferNoHinting }
             MouseArea { id: dontShowArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.dontShow() }
+            KeyControl { name: dontShowLabel.text; onActivated: root.dontShow() }
         }
     }
 
@@ -159,8 +168,9 @@ Item {
         anchors.top: parent.top
         anchors.topMargin: 12
         color: closeArea.containsMouse ? "#eef1f6" : "transparent"
-        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
+        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; Accessible.ignored: true; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
         MouseArea { id: closeArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
+        KeyControl { name: TU.getLocalizedText("Close"); onActivated: root.close() }
     }
 
     Component.onCompleted: {
