@@ -667,7 +667,8 @@ private Q_SLOTS:
         QVERIFY(body && buttons);
         QVERIFY2(body->y() + body->height() < buttons->y(), qPrintable(QString::number(buttons->y())));
 
-        QCOMPARE(content.Picture().size(), QSize(850, 472));
+        QCOMPARE(content.Picture().size(),
+                 QSize(850, 472) * content.GetUi()->devicePixelRatioF()); // device pixels
         QCOMPARE(content.HashSize(), QSize(16, 8));
         const QString hash = content.ComputedHash();
         QCOMPARE(hash.size(), 16 * 8);

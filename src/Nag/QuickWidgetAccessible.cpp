@@ -16,7 +16,8 @@ QAccessibleInterface* createFor(const QString& className, QObject* object)
 
 } // namespace
 
-QuickWidgetAccessible::QuickWidgetAccessible(QQuickWidget* view) : QAccessibleWidget(view, QAccessible::Client)
+QuickWidgetAccessible::QuickWidgetAccessible(QQuickWidget* view)
+    : QAccessibleWidget(view, QAccessible::Client)
 {
 }
 
