@@ -1,13 +1,12 @@
 // A child process for the crash record tests: each scenario lets an exception loose the way a
-// product would, inside the real application object. The first argument names the scenario; the
-// crash record file is named on standard output as "crashRecord=<path>".
+// product would, inside the real application object, and nothing catches it. The first argument
+// names the scenario; the crash record file is named on standard output as "crashRecord=<path>".
 
 #include "App/Application/Application.h"
 #include "App/Application/LifetimeManager.h"
 #include "Foundation/CrashRecord.h"
 
-#include <QEvent>
-#include <QEventLoop>
+#include <QDialog>
 #include <QFile>
 #include <QTimer>
 
@@ -17,29 +16,6 @@
 
 using namespace Ostrel;
 
-namespace {
-
-// On its event, runs a nested event loop, as a modal nag does, which delivers a failing call to
-// `inner`, as a button of the nag would. (A QDialog's own loop does not survive an exception
-// passing through it: Qt 5 is not exception-safe there, and the process would die of that.)
-class ModalOwner : public QObject
-{
-public:
-    QObject* inner = nullptr;
-
-    bool event(QEvent* event) override
-    {
-        if (event->type() != QEvent::User)
-            return QObject::event(event);
-        QEventLoop modalLoop;
-        QTimer::singleShot(0, inner, []() { throw std::runtime_error("failure inside the modal loop"); });
-        modalLoop.exec();
-        return true;
-    }
-};
-
-} // namespace
-
 int main(int argc, char** argv)
 {
     const std::string scenario = argc > 1 ? argv[1] : "";
@@ -48,24 +24,31 @@ int main(int argc, char** argv)
     QFile::remove(Core::CrashRecordPath().toQString());
     std::cout << "crashRecord=" << Core::CrashRecordPath().utf8() << std::endl;
 
-    QObject inner;
-    inner.setObjectName(QStringLiteral("innerReceiver"));
-    ModalOwner outer;
-    outer.setObjectName(QStringLiteral("outerReceiver"));
-    outer.inner = &inner;
+    QObject receiver;
+    receiver.setObjectName(QStringLiteral("failingReceiver"));
+    const auto fail = []() { throw std::runtime_error("failure in an event"); };
 
-    if (scenario == "nested") {
-        QCoreApplication::postEvent(&outer, new QEvent(QEvent::User));
-        try {
-            return QApplication::exec();
-        } catch (const std::exception& exception) {
-            std::cout << "rethrown=" << exception.what() << std::endl;
-            return 3;
-        }
+    if (scenario == "main") {
+        QTimer::singleShot(0, &receiver, fail);
+        return QApplication::exec();
+    }
+    // A modal box, as a nag shown at the start (before the main loop) or from a menu (inside it):
+    // the failure comes from an event that the box's own loop delivers.
+    if (scenario == "modal" || scenario == "modal in main loop") {
+        QDialog box;
+        const auto showBox = [&box, &receiver, fail]() {
+            QTimer::singleShot(0, &receiver, fail);
+            box.exec();
+        };
+        if (scenario == "modal")
+            showBox();
+        else
+            QTimer::singleShot(0, &box, showBox);
+        return QApplication::exec();
     }
     if (scenario == "terminate") {
         // Not a std::exception: the event guard lets it pass, nothing catches it.
-        QTimer::singleShot(0, &inner, []() { throw 42; });
+        QTimer::singleShot(0, &receiver, []() { throw 42; });
         return QApplication::exec();
     }
     if (scenario == "thread") {

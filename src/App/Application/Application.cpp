@@ -36,11 +36,13 @@
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QMetaEnum>
+#include <QPointer>
 #include <QThread>
 #include <QTimer>
 
 #include <glog/logging.h>
 
+#include <exception>
 #include <typeinfo>
 
 namespace Ostrel::App {
@@ -226,6 +228,21 @@ bool Application::CheckRunnedInstaller()
     }
 }
 
+namespace {
+
+// Qt's modal loops (QDialog::exec, QMenu::exec, ...) are not exception-safe: an exception that
+// unwinds through one leaves the dialog pointing at its dead loop, and the dialog's destructor
+// then crashes. So is any loop nested in another, and any modal box shown before the main loop.
+bool unwindingIsUnsafe(const QObject& application)
+{
+    const QThread* const thread = QThread::currentThread();
+    if (thread->loopLevel() > 1)
+        return true;
+    return thread == application.thread() && QApplication::activeModalWidget() != nullptr;
+}
+
+} // namespace
+
 bool Application::notify(QObject* receiver, QEvent* event)
 {
     try {
@@ -252,6 +269,14 @@ bool Application::notify(QObject* receiver, QEvent* event)
             receiver ? Util::QStringToUtf8(receiver->objectName()) : std::string();
         Core::TrackCurrentException("Receiver: " + receiverClass + " \"" + receiverName +
                                     "\"; event: QEvent::" + (typeName ? typeName : ""));
+        // Recorded already: the terminate handler adds no second record.
+        if (unwindingIsUnsafe(*this))
+            std::terminate();
+        throw;
+    } catch (...) {
+        // Not ours to log; the terminate handler records it, as it would at the end of main.
+        if (unwindingIsUnsafe(*this))
+            std::terminate();
         throw;
     }
 }
@@ -273,7 +298,12 @@ Application::Impl::Impl(Application& app, const std::shared_ptr<ILifetimeManager
     if (appMutexLocker)
         appMutexLocker->TryLockAppMutex();
     application.RegisterEventHandler(this);
-    lifetime->addOnStartCallback([this]() { onStart(); });
+    // The product's lifetime manager may outlive the application and start after it is gone: the
+    // callback goes with this object's own QObject.
+    lifetime->addOnStartCallback([this, alive = QPointer<QObject>(&requestContext)]() {
+        if (alive)
+            onStart();
+    });
 }
 
 Application::Impl::~Impl()

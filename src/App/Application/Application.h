@@ -20,6 +20,16 @@ class ISplash;
 /// manager's start. Every event passes notify(), which logs what the user pressed and reports an
 /// exception escaping from event processing before letting it go on.
 ///
+/// Except where letting it go on would itself crash: while a modal box is open or an event loop
+/// runs inside another, Qt's frames between here and any handler are not exception-safe, so the
+/// process ends right here through std::terminate (one crash record, then SIGABRT), which is
+/// where an exception that no handler takes ends anyway. A deliberate departure, for safety: a
+/// handler around the event loop does not see an exception thrown inside a modal box.
+///
+/// The start callbacks it and its splash controller register go with them: a lifetime manager
+/// that outlives the application and starts later calls nothing of it. (A deliberate departure,
+/// for safety: a callback on a destroyed object would crash.)
+///
 /// Destruction releases the private part first (and with it the application mutex), then the
 /// components in list order, then QApplication.
 class OSTREL_APP_EXPORT Application : public QApplication, public ITopManager
