@@ -147,6 +147,22 @@ private slots:
                  (QStringList{QStringLiteral("English"), QStringLiteral("Deutsch"), QStringLiteral("--")}));
         QCOMPARE(checked(menu), QStringLiteral("de_DE"));
     }
+
+    void nullManagerShowsKeysAndOnlySignals()
+    {
+        QMenu locales;
+        QMenu themes;
+        LookAndFeelHandler handler(nullptr, &locales, &themes);
+        handler.SetLocaleList({"en_US"});
+        handler.SetThemeList({"dark"});
+        QCOMPARE(texts(themes), QStringList{QStringLiteral("dark")});
+        QSignalSpy localeSpy(&handler, &LookAndFeelHandler::LocaleChanged);
+        QSignalSpy themeSpy(&handler, &LookAndFeelHandler::ThemeChanged);
+        entry(locales, QStringLiteral("en_US"))->trigger();
+        entry(themes, QStringLiteral("dark"))->trigger();
+        QCOMPARE(localeSpy.count() + themeSpy.count(), 2);
+        QCOMPARE(checked(themes), QStringLiteral("dark"));
+    }
 };
 
 int main(int argc, char** argv)

@@ -72,7 +72,10 @@ public:
     ActionMap m_themeActions;
     std::string m_selectedTheme;
 
-    std::string themeTitle(const std::string& theme) const { return m_manager->GetLocalizedThemeName(theme); }
+    std::string themeTitle(const std::string& theme) const
+    {
+        return m_manager ? m_manager->GetLocalizedThemeName(theme) : theme;
+    }
 
     void rebuildLocales()
     {
@@ -181,7 +184,8 @@ void LookAndFeelHandler::OnInnerLocaleChanged(QAction* action)
     const std::string locale = QStringToUtf8(action->data().toString());
     // The manager may settle on another locale and tell us through OnLocaleChanged; the user's
     // click is what the menu shows and what the signal carries.
-    d->m_manager->SetLocale(locale);
+    if (d->m_manager)
+        d->m_manager->SetLocale(locale);
     SelectLocale(locale);
     emit LocaleChanged(locale);
 }
@@ -189,7 +193,8 @@ void LookAndFeelHandler::OnInnerLocaleChanged(QAction* action)
 void LookAndFeelHandler::OnInnerThemeChanged(QAction* action)
 {
     const std::string theme = QStringToUtf8(action->data().toString());
-    d->m_manager->SetTheme(theme);
+    if (d->m_manager)
+        d->m_manager->SetTheme(theme);
     SelectTheme(theme);
     emit ThemeChanged(theme);
 }

@@ -20,6 +20,10 @@ class ILookAndFeelManager;
 /// A click switches the manager and emits LocaleChanged/ThemeChanged; a change made through the
 /// manager only moves the check mark. The host supplies the lists and the first selection; the
 /// menus stay the host's.
+///
+/// The manager may be null, and every use of it is guarded: the menus then show the theme names
+/// themselves, and a click only moves the check mark and emits. (A deliberate departure, for
+/// safety: a null manager is accepted at construction, so no later call may crash on it.)
 class OSTREL_APP_EXPORT LookAndFeelHandler : public QObject, public ILookAndFeelObserver
 {
     Q_OBJECT
