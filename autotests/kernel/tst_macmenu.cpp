@@ -163,7 +163,7 @@ private Q_SLOTS:
         QVERIFY(window.isMaximized());
     }
 
-    void noActiveWindowAsksAboutNull()
+    void noActiveWindowAsksAboutNullAndDoesNothing()
     {
         QMenuBar bar;
         QMenu* menu = addMenu(&bar, QStringLiteral("menuWindow"));
@@ -176,6 +176,15 @@ private Q_SLOTS:
         QApplication::setActiveWindow(nullptr);
         zoom->trigger();
         QCOMPARE(seen, nullptr);
+
+        // The empty function says yes to everything, null included.
+        QMenuBar acceptingBar;
+        menu = addMenu(&acceptingBar, QStringLiteral("menuWindow"));
+        zoom = addNamed(menu, QStringLiteral("actionZoom"));
+        QAction* minimize = addNamed(menu, QStringLiteral("actionMinimize"));
+        MacMenuActionHandler accepting(&acceptingBar, {});
+        zoom->trigger();
+        minimize->trigger();
     }
 };
 

@@ -82,14 +82,14 @@ void MacMenuActionHandler::onBringAllToFront() {}
 void MacMenuActionHandler::onMinimize()
 {
     QWidget* window = QApplication::activeWindow();
-    if (canManipulateWithWidget(window))
+    if (canManipulateWithWidget(window) && window)
         window->showMinimized();
 }
 
 void MacMenuActionHandler::onZoom()
 {
     QWidget* window = QApplication::activeWindow();
-    if (!canManipulateWithWidget(window))
+    if (!canManipulateWithWidget(window) || !window)
         return;
     if (window->isMaximized())
         window->showNormal();

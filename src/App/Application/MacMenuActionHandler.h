@@ -18,7 +18,9 @@ namespace Ostrel::App {
 /// Menus or actions that aren't there are left out.
 ///
 /// `canManipulate` may refuse a window (an empty function accepts every one). With no active
-/// window it is asked about null, and its answer decides: it must not say yes to null.
+/// window it is still asked about null, but a yes changes nothing: with no window there is nothing
+/// to minimize or zoom. (A deliberate departure, for safety: the answer alone would let an empty
+/// function act on a null window.)
 class OSTREL_APP_EXPORT MacMenuActionHandler : public QObject
 {
     Q_OBJECT
