@@ -3,6 +3,7 @@
 // standard output, one "key=value" a line.
 
 #include "App/Application/Application.h"
+#include "App/Application/ISplash.h"
 #include "App/Application/LifetimeManager.h"
 #include "App/Application/StartupEnvironment.h"
 #include "Foundation/AppMutexLocker.h"
@@ -49,10 +50,16 @@ int record(int argc, char** argv)
     return 0;
 }
 
+// "restart ARGUMENTS [early]": early asks before there is an application object.
 int restart(int argc, char** argv)
 {
     const std::string arguments = argc > 2 ? argv[2] : "";
     auto lifetime = std::make_shared<App::LifetimeManager>();
+    if (argc > 3 && std::string(argv[3]) == "early") {
+        std::cout << "restarted=" << lifetime->tryToRestart(App::Silent, std::string(), arguments)
+                  << std::endl;
+        return 0;
+    }
     App::Application app(argc, argv, lifetime, App::Application::DISABLE_APP_MUTEX);
     lifetime->start();
     const bool restarted = lifetime->tryToRestart(App::Silent, std::string(), arguments);
@@ -82,6 +89,26 @@ int guard(int argc, char** argv)
         return 4;
     }
     std::cout << "rethrown=none" << std::endl;
+    return 0;
+}
+
+// The product's lifetime manager outlives the application and starts after it is gone.
+int startAfterApplication(int argc, char** argv)
+{
+    struct CountingSplash : App::ISplash
+    {
+        void show() override {}
+        void dismiss() override { ++dismissals; }
+        int dismissals = 0;
+    };
+    const auto splash = std::make_shared<CountingSplash>();
+    auto lifetime = std::make_shared<App::LifetimeManager>();
+    {
+        App::Application app(argc, argv, lifetime, App::Application::DISABLE_APP_MUTEX);
+        app.SetSplash(splash);
+    }
+    lifetime->start();
+    std::cout << "dismissals=" << splash->dismissals << std::endl;
     return 0;
 }
 
@@ -142,6 +169,8 @@ int main(int argc, char** argv)
         return restart(argc, argv);
     if (mode == "guard" && argc > 2)
         return guard(argc, argv);
+    if (mode == "lateStart")
+        return startAfterApplication(argc, argv);
     if (mode == "instance" && argc > 2)
         return instance(argc, argv);
     if (mode == "appmutex" && argc > 2)

@@ -49,6 +49,24 @@ private Q_SLOTS:
         QCOMPARE(got, expected);
     }
 
+    void restartWithoutAnApplicationIsRefused()
+    {
+        const auto result =
+            ProbeRunner(QStringLiteral(KERNEL_PROBE))
+                .run({QStringLiteral("restart"), QStringLiteral("--x"), QStringLiteral("early")});
+        QCOMPARE(result.exitCode, 0);
+        QCOMPARE(result.values.value(QStringLiteral("restarted")), QStringLiteral("0"));
+        QVERIFY2(result.standardError.contains(QLatin1String("Restart refused")),
+                 qPrintable(result.standardError));
+    }
+
+    void lifetimeStartedAfterTheApplicationIsGoneCallsNothingOfIt()
+    {
+        const auto result = ProbeRunner(QStringLiteral(KERNEL_PROBE)).run({QStringLiteral("lateStart")});
+        QVERIFY2(result.finished && result.exitCode == 0, qPrintable(result.standardError));
+        QCOMPARE(result.values.value(QStringLiteral("dismissals")), QStringLiteral("0"));
+    }
+
     void guardLogsTracksAndRethrowsStandardExceptions()
     {
         const auto result =

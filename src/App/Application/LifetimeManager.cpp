@@ -9,6 +9,8 @@
 #include <QPixmap>
 #include <QProcess>
 
+#include <glog/logging.h>
+
 #include <list>
 
 namespace Ostrel::App {
@@ -58,6 +60,15 @@ bool LifetimeManager::isStarted() const
 
 bool LifetimeManager::tryToRestart(WorkingMode mode, const std::string& iconPath, std::string arguments)
 {
+    // Asked before anything else: the user is not asked, and the program does not quit, for a
+    // restart that can not happen. Without an application object Qt knows no path.
+    const QString program =
+        QCoreApplication::instance() ? QCoreApplication::applicationFilePath() : QString();
+    if (program.isEmpty()) {
+        LOG(ERROR) << "Restart refused: the application's own path is unknown";
+        return false;
+    }
+
     if (mode == Interactive) {
         Util::AlertBox box(QCoreApplication::translate("ApplicationRestarter", "Attention"),
                            QCoreApplication::translate(
@@ -75,14 +86,14 @@ bool LifetimeManager::tryToRestart(WorkingMode mode, const std::string& iconPath
     if (!tryToQuit())
         return false;
 
-    QString command = QLatin1Char('"') + QCoreApplication::applicationFilePath() + QLatin1Char('"');
+    QString command = QLatin1Char('"') + program + QLatin1Char('"');
     if (!arguments.empty())
         command += QLatin1Char(' ') + Util::Utf8ToQString(arguments);
     // The one-string form of startDetached: the command is split by the same rules Qt has always
     // used for it, never by a shell.
     QStringList parts = QProcess::splitCommand(command);
-    const QString program = parts.takeFirst();
-    QProcess::startDetached(program, parts);
+    const QString executable = parts.takeFirst();
+    QProcess::startDetached(executable, parts);
     return true;
 }
 

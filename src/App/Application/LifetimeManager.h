@@ -11,6 +11,10 @@ namespace Ostrel::App {
 /// and a restart that starts the program again while this one leaves its event loop.
 ///
 /// Everything runs on the main thread: the question dialog and QCoreApplication::quit need it.
+///
+/// A restart when the program's own path is unknown (no application object yet) is refused with
+/// an error in the log, before the question and the quit. (A deliberate departure, for safety:
+/// there is nothing to start, and the empty command would crash.)
 class OSTREL_APP_EXPORT LifetimeManager : public virtual ILifetimeManager
 {
 public:

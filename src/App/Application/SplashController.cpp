@@ -5,6 +5,7 @@
 #include "Interfaces/ILifetimeManager.h"
 
 #include <QEvent>
+#include <QPointer>
 
 namespace Ostrel::App {
 
@@ -13,9 +14,11 @@ SplashController::SplashController(Application* application, ILifetimeManager& l
     : QObject(application), m_application(application), m_splash(std::move(splash))
 {
     application->installEventFilter(this);
-    lifetimeManager.addOnStartCallback([this]() {
-        if (m_splash)
-            m_splash->dismiss();
+    // The product's lifetime manager may outlive this controller (and the application) and start
+    // later: the callback holds the controller weakly.
+    lifetimeManager.addOnStartCallback([controller = QPointer<SplashController>(this)]() {
+        if (controller && controller->m_splash)
+            controller->m_splash->dismiss();
     });
 }
 
