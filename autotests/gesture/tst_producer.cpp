@@ -7,6 +7,8 @@
 #include "FakePlatformApi.h"
 #include "TestEnvironment.h"
 
+#include <memory>
+
 using namespace Ostrel::App;
 using Ostrel::Test::FakePlatformApi;
 using namespace Ostrel::Test::WindowSystem;
@@ -215,29 +217,34 @@ private Q_SLOTS:
         QTest::addColumn<bool>("notified");
         QTest::addColumn<bool>("infoAvailable");
         QTest::addColumn<uint>("id");
-        QTest::newRow("no notify before") << false << true << uint(GID_PAN);
-        QTest::newRow("info unreadable") << true << false << uint(GID_PAN);
-        QTest::newRow("GID_BEGIN") << true << true << uint(GID_BEGIN);
-        QTest::newRow("unknown id") << true << true << 99u;
+        QTest::addColumn<bool>("receiverGone"); // destroyed between the notify and the gesture
+        QTest::newRow("no notify before") << false << true << uint(GID_PAN) << false;
+        QTest::newRow("info unreadable") << true << false << uint(GID_PAN) << false;
+        QTest::newRow("GID_BEGIN") << true << true << uint(GID_BEGIN) << false;
+        QTest::newRow("unknown id") << true << true << 99u << false;
+        QTest::newRow("receiver destroyed mid sequence") << true << true << uint(GID_PAN) << true;
     }
     void gestureLeftToDefaultHandling()
     {
         QFETCH(bool, notified);
         QFETCH(bool, infoAvailable);
         QFETCH(uint, id);
+        QFETCH(bool, receiverGone);
         FakePlatformApi api;
-        ScriptedConsumer consumer;
+        auto consumer = std::make_unique<ScriptedConsumer>();
         TestProducer producer(api);
-        producer.consumer = &consumer;
+        producer.consumer = consumer.get();
         if (notified)
             producer.notify(0, 0);
         if (infoAvailable)
             api.gestures[Handle] = Info{0, GF_BEGIN | GF_END, id, 0, 0, 7};
+        if (receiverGone)
+            consumer.reset();
 
         QVERIFY(!producer.gesture());
         QVERIFY(api.closed.empty());
-        QCOMPARE(api.calls.contains(QStringLiteral("GetGestureInfo")), notified);
-        QVERIFY(consumer.pans.empty());
+        QCOMPARE(api.calls.contains(QStringLiteral("GetGestureInfo")), notified && !receiverGone);
+        QVERIFY(!consumer || consumer->pans.empty());
     }
 
     void consumedGestureClosesItsHandle()

@@ -2,6 +2,8 @@
 
 #include "App/Application/Gesture/Gesture.h"
 
+#include <memory>
+
 namespace Ostrel::App {
 
 /// A receiver of gestures. `WantGesture` is asked once per touch sequence, before any gesture of
@@ -12,9 +14,14 @@ namespace Ostrel::App {
 class OSTREL_APP_EXPORT Gesture::Consumer
 {
 public:
-    Consumer(const Consumer&) = default;
-    Consumer& operator=(const Consumer&) = default;
+    /// A copy is another receiver: it has a handle of its own.
+    Consumer(const Consumer& other);
+    Consumer& operator=(const Consumer& other);
     virtual ~Consumer();
+
+    /// Expires when this consumer is destroyed. A producer holds its receiver by it: a view can
+    /// close in the middle of a touch sequence.
+    std::weak_ptr<Consumer> weakHandle();
 
     virtual void OnGesture(const PressAndTap& gesture);
     virtual void OnGesture(const Tap& gesture);
@@ -28,7 +35,10 @@ public:
     virtual int WantGesture(const Pan& gesture);
 
 protected:
-    Consumer() = default;
+    Consumer();
+
+private:
+    std::shared_ptr<void> m_lifetime;
 };
 
 } // namespace Ostrel::App

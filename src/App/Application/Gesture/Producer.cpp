@@ -140,7 +140,7 @@ void Gesture::Producer::Init(IPlatformApi& api)
     state.startAngle = 0.0;
     state.startX = 0;
     state.startY = 0;
-    state.consumer = nullptr;
+    state.consumer.reset();
     state.api = &api;
 }
 
@@ -170,7 +170,7 @@ bool Gesture::Producer::OnGestureNotify(void* hwnd, void*, void* lParam)
     if (!consumer) {
         ConfigEntry blockAll = {0, 0, GC_ALLGESTURES};
         api.SetGestureConfig(hwnd, 0, 1, &blockAll, ConfigEntrySize);
-        state.consumer = nullptr;
+        state.consumer.reset();
         return false;
     }
 
@@ -181,7 +181,7 @@ bool Gesture::Producer::OnGestureNotify(void* hwnd, void*, void* lParam)
     setAllOrNone(state.pressAndTapConfig, consumer->WantGesture(withPosition<PressAndTap>(where)));
 
     api.SetGestureConfig(hwnd, 0, 5, state.configs, ConfigEntrySize);
-    state.consumer = consumer;
+    state.consumer = consumer->weakHandle();
     return false;
 }
 
@@ -192,8 +192,10 @@ bool Gesture::Producer::OnGesture(void* hwnd, void*, void* lParam)
 
     IPlatformApi::Info info = {};
     info.size = GestureInfoSize;
-    // Not ours to close when we don't decode it: the default handling owns the handle then.
-    if (!state.consumer || !api.GetGestureInfo(lParam, &info))
+    // Not ours to close when we don't decode it: the default handling owns the handle then. A
+    // receiver destroyed since the sequence began gets nothing more.
+    const std::shared_ptr<Consumer> consumer = state.consumer.lock();
+    if (!consumer || !api.GetGestureInfo(lParam, &info))
         return false;
 
     const IPlatformApi::Point client = toClient(api, hwnd, info.locationX, info.locationY);
@@ -214,7 +216,7 @@ bool Gesture::Producer::OnGesture(void* hwnd, void*, void* lParam)
         Zoom zoom = withPosition<Zoom>(common);
         zoom.startDistance = state.startDistance;
         zoom.distance = current;
-        state.consumer->OnGesture(zoom);
+        consumer->OnGesture(zoom);
         break;
     }
     case GID_PAN: {
@@ -229,7 +231,7 @@ bool Gesture::Producer::OnGesture(void* hwnd, void*, void* lParam)
         pan.distance = static_cast<std::uint32_t>(arg);
         pan.inertiaX = static_cast<std::int16_t>(static_cast<std::uint16_t>(arg >> 32));
         pan.inertiaY = static_cast<std::int16_t>(static_cast<std::uint16_t>(arg >> 48));
-        state.consumer->OnGesture(pan);
+        consumer->OnGesture(pan);
         break;
     }
     case GID_ROTATE: {
@@ -241,20 +243,20 @@ bool Gesture::Producer::OnGesture(void* hwnd, void*, void* lParam)
         Rotate rotate = withPosition<Rotate>(common);
         rotate.startAngle = state.startAngle;
         rotate.angle = angle;
-        state.consumer->OnGesture(rotate);
+        consumer->OnGesture(rotate);
         break;
     }
     case GID_TWOFINGERTAP: {
         Tap tap = withPosition<Tap>(common);
         tap.distance = static_cast<std::uint32_t>(arg);
-        state.consumer->OnGesture(tap);
+        consumer->OnGesture(tap);
         break;
     }
     case GID_PRESSANDTAP: {
         PressAndTap pressAndTap = withPosition<PressAndTap>(common);
         pressAndTap.tapX = common.x + static_cast<std::int16_t>(static_cast<std::uint16_t>(arg));
         pressAndTap.tapY = common.y + static_cast<std::int16_t>(static_cast<std::uint16_t>(arg >> 16));
-        state.consumer->OnGesture(pressAndTap);
+        consumer->OnGesture(pressAndTap);
         break;
     }
     default:

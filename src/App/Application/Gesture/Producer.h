@@ -13,6 +13,10 @@ struct ProducerState;
 /// remembers where the current zoom, rotation and pan began.
 ///
 /// Copies share their state (configuration, start values, chosen receiver) with the original.
+///
+/// The chosen receiver is held weakly (`Consumer::weakHandle`): one destroyed in the middle of a
+/// touch sequence gets nothing more, and its gestures go to the default handling. (A deliberate
+/// departure, for safety: a plain pointer would be read after the receiver is gone.)
 class OSTREL_APP_EXPORT Gesture::Producer
 {
 public:

@@ -3,6 +3,7 @@
 #include "App/Application/Gesture/IPlatformApi.h"
 
 #include <cstdint>
+#include <memory>
 
 namespace Ostrel::App {
 
@@ -19,7 +20,7 @@ struct ProducerState
     double startAngle;
     std::int32_t startX;
     std::int32_t startY;
-    Gesture::Consumer* consumer;
+    std::weak_ptr<Gesture::Consumer> consumer;
     Gesture::IPlatformApi* api;
 };
 
