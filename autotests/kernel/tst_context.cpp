@@ -11,7 +11,9 @@
 
 #include <array>
 #include <atomic>
+#include <cstdlib>
 #include <functional>
+#include <new>
 #include <thread>
 
 using namespace Ostrel;
@@ -93,7 +95,59 @@ bool everyComponentIsItsOwn(const App::IApplicationContext<void, Components...>&
             ...);
 }
 
+// Set by a test to make this thread's next allocation fail, as a full heap would.
+thread_local bool failNextAllocation = false;
+
 } // namespace
+
+// Every form of the global allocation functions, so that no allocation of the process (Qt's and
+// the sanitizers' included) is freed by a function of another family.
+void* operator new(std::size_t size)
+{
+    if (failNextAllocation) {
+        failNextAllocation = false;
+        throw std::bad_alloc();
+    }
+    if (void* memory = std::malloc(size == 0 ? 1 : size))
+        return memory;
+    throw std::bad_alloc();
+}
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return failNextAllocation ? nullptr : std::malloc(size == 0 ? 1 : size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept
+{
+    return operator new(size, tag);
+}
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, const std::nothrow_t&) noexcept
+{
+    std::free(memory);
+}
+void operator delete[](void* memory, const std::nothrow_t&) noexcept
+{
+    std::free(memory);
+}
 
 class ContextTest : public QObject
 {
@@ -159,6 +213,18 @@ private Q_SLOTS:
         QCOMPARE(context.get<Alpha>(), a1);
         QVERIFY(!context.get<Beta>());
         QCOMPARE(context.componentCount(), std::size_t(2));
+    }
+
+    void replacementThatCannotBeStoredKeepsTheOldComponent()
+    {
+        SmallContext context;
+        const auto kept = std::make_shared<Alpha>();
+        const auto replacement = std::make_shared<Alpha>();
+        context.set<Alpha>(kept);
+        failNextAllocation = true;
+        QVERIFY_EXCEPTION_THROWN(context.set<Alpha>(replacement), std::bad_alloc);
+        QCOMPARE(context.get<Alpha>(), kept);
+        QCOMPARE(context.componentCount(), std::size_t(1));
     }
 
     void observerOrderDuplicatesAndRemovalDuringNotification()

@@ -51,11 +51,13 @@ public:
             return;
         constexpr std::size_t index = indexOf<T>();
         const boost::any*& slot = m_index[index];
+        // The new node first: if making it fails, the old one and the index are as they were.
+        const boost::any* added = &m_components.emplace_back(value);
         if (slot) {
             m_components.erase(std::find_if(m_components.begin(), m_components.end(),
                                             [slot](const boost::any& node) { return &node == slot; }));
         }
-        slot = &m_components.emplace_back(value);
+        slot = added;
         m_observers.Notify(&TApplicationContextObserver<T>::onComponentChanged, value, old);
     }
 
