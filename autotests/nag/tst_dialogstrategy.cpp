@@ -56,6 +56,17 @@ public:
     using DialogStrategy::LocateDialog;
 };
 
+// Shows over the window the test names.
+class ParentedStrategy : public DialogStrategy
+{
+public:
+    using DialogStrategy::DialogStrategy;
+    QWidget* parent = nullptr;
+
+protected:
+    QWidget* ParentFor(const NagContext&) const override { return parent; }
+};
+
 QDialog* shownNag()
 {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -351,6 +362,22 @@ private Q_SLOTS:
         rearm(*content);
         whenShown([raw](QDialog*) { Q_EMIT raw->Finished(1, {}); });
         QCOMPARE(strategy.ShowNag(*content), 1);
+    }
+
+    void parentDestroyedWhileShownTakesNothingOfTheNag()
+    {
+        m_settings->name = "color";
+        auto* parent = new QWidget;
+        parent->resize(400, 300);
+        parent->show();
+        ParentedStrategy strategy(m_settings);
+        strategy.parent = parent;
+        auto content = makeContent();
+        QPointer<QWidget> ui = content->GetUi();
+        whenShown([parent](QDialog*) { delete parent; });
+        QCOMPARE(strategy.ShowNag(*content), 2);
+        QVERIFY(!ui.isNull());
+        QVERIFY(!strategy.GetDimmingProvider()->Get(QStringLiteral("color"))->parentWidget());
     }
 
     void aCopySharesTheDimmersAndNotTheFlags()

@@ -175,6 +175,18 @@ int DialogStrategy::ShowNag(AbstractContent& content)
         }
     };
 
+    // The parent may go while the nag is up. The dialog (on this stack) and the dimmer (owned by
+    // the provider) are its children, and it would delete both: they leave it first, which it
+    // tells before it deletes its children, and the nag ends as rejected.
+    if (parent) {
+        QObject::connect(parent, &QObject::destroyed, &dialog, [&dialog, &dimmer]() {
+            if (dimmer)
+                dimmer->Attach(nullptr, nullptr);
+            dialog.setParent(nullptr, dialog.windowFlags());
+            dialog.reject();
+        });
+    }
+
     const int code = dialog.exec();
     return code == 0 ? 2 : code;
 }

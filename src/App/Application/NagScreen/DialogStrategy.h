@@ -24,6 +24,10 @@ class DimmingProvider;
 ///
 /// The exit code is the nag's, except that 0 becomes 2: a caller never sees 0.
 /// Copies share the dimmers and have flags of their own.
+///
+/// A parent window destroyed while the nag is up takes neither the dialog nor the dimmer with it:
+/// both leave it first, and the nag ends as rejected (2). (A deliberate departure, for safety: as
+/// its children they would be deleted twice.)
 class OSTREL_APP_EXPORT DialogStrategy : public IShowStrategy
 {
 public:
