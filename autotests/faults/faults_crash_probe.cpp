@@ -34,16 +34,18 @@ int main(int argc, char** argv)
     }
     // A modal box, as a nag shown at the start (before the main loop) or from a menu (inside it):
     // the failure comes from an event that the box's own loop delivers.
+    // The box lives in the frame that shows it, as a nag's does: unwinding to the main loop
+    // destroys it.
     if (scenario == "modal" || scenario == "modal in main loop") {
-        QDialog box;
-        const auto showBox = [&box, &receiver, fail]() {
+        const auto showBox = [&receiver, fail]() {
+            QDialog box;
             QTimer::singleShot(0, &receiver, fail);
             box.exec();
         };
         if (scenario == "modal")
             showBox();
         else
-            QTimer::singleShot(0, &box, showBox);
+            QTimer::singleShot(0, &receiver, showBox);
         return QApplication::exec();
     }
     if (scenario == "terminate") {
