@@ -23,7 +23,7 @@ void addHelpMenu(QMenuBar& menuBar, Application& application)
     auto* texts = new MenuTexts(*menu, "HelpMenu", QT_TRANSLATE_NOOP("HelpMenu", "&Help"));
     const auto add = [&](const char* text, URLKeys key) {
         QAction* action = texts->addAction(text);
-        action->setObjectName(Ostrel::Util::Utf8ToQString(UrlKeyNames().at(key)));
+        action->setObjectName(Ostrel::Util::Utf8ToQString(UrlKeyNames.at(key)));
         // The manager is asked at the click: the host may replace it at any time.
         QObject::connect(action, &QAction::triggered, menu,
                          [&application, key]() { application.GetLinksManager()->OpenUrl(key); });

@@ -14,7 +14,7 @@ LinksPanel::LinksPanel(const Opener& open, QWidget* parent) : QListWidget(parent
     viewport()->setAutoFillBackground(false);
     // One line of text each: the view measures one item instead of every one of them.
     setUniformItemSizes(true);
-    for (const auto& [key, name] : UrlKeyNames()) {
+    for (const auto& [key, name] : UrlKeyNames) {
         auto* item = new QListWidgetItem(Ostrel::Util::Utf8ToQString(name), this);
         item->setData(Qt::UserRole, static_cast<int>(key));
     }

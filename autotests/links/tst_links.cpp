@@ -159,6 +159,19 @@ private slots:
         QCOMPARE(links->GetUrl(CUSTOM_WEB_NAG_URL), QString());
     }
 
+    // A link's locale is the look and feel's alone: the URL walk switches only that one, and Qt's
+    // default locale or the customization never reach a link.
+    void linksTakeTheLookAndFeelsLocale()
+    {
+        customization->custom["Links/CUSTOM_ABOUT_URL"] = "https://partner.example/about?l=-LANG-";
+        const QLocale before;
+        QLocale::setDefault(QLocale(QStringLiteral("ja_JP")));
+        lookAndFeel->SetLocale("ru_RU");
+        const QString url = links->GetUrl(CUSTOM_ABOUT_URL);
+        QLocale::setDefault(before);
+        QCOMPARE(url, QStringLiteral("https://partner.example/about?l=ru_RU"));
+    }
+
     void unknownKeysGiveNothing()
     {
         LogCapture log;

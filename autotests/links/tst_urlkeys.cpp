@@ -56,21 +56,21 @@ private slots:
         QFETCH(int, number);
         QFETCH(QString, name);
         QFETCH(QString, expected);
-        const auto found = UrlKeyNames().find(static_cast<URLKeys>(number));
-        QVERIFY(found != UrlKeyNames().end());
+        const auto found = UrlKeyNames.find(static_cast<URLKeys>(number));
+        QVERIFY(found != UrlKeyNames.end());
         QCOMPARE(QString::fromStdString(found->second), name);
-        QCOMPARE(QString::fromStdString(UrlTemplates().at(found->second)), expected);
+        QCOMPARE(QString::fromStdString(UrlTemplates.at(found->second)), expected);
     }
 
     void everyKeyHasOneTemplateAndNoTemplateIsWithoutAKey()
     {
         QCOMPARE(sizeof(URLKeys), size_t(4));
         std::set<std::string> names;
-        for (const auto& [key, name] : UrlKeyNames()) {
+        for (const auto& [key, name] : UrlKeyNames) {
             QVERIFY2(names.insert(name).second, name.c_str());
-            QVERIFY2(UrlTemplates().count(name), name.c_str());
+            QVERIFY2(UrlTemplates.count(name), name.c_str());
         }
-        QCOMPARE(UrlTemplates().size(), names.size());
+        QCOMPARE(UrlTemplates.size(), names.size());
     }
 
     // A link of the product's own site names its source twice: in the key and in "asrc".
@@ -79,7 +79,7 @@ private slots:
         const QRegularExpression standard(
             QStringLiteral("^https://link\\.ostrel\\.com/[^?]*\\?asrc=([A-Za-z_]*)&-TAIL_WITH_ARGS-$"));
         int checked = 0;
-        for (const auto& [name, value] : UrlTemplates()) {
+        for (const auto& [name, value] : UrlTemplates) {
             const auto match = standard.match(QString::fromStdString(value));
             if (!match.hasMatch())
                 continue;

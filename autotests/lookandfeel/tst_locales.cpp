@@ -138,15 +138,21 @@ private slots:
         QCOMPARE(QString::fromStdString(manager.GetCurrentLocale()), expected);
     }
 
-    // Without the seam, the languages are Qt's own reading of the environment (LANGUAGE, set by main).
+    // Without the seam, the languages are Qt's own reading of the environment (LANGUAGE, set by
+    // main), read again when the product changes Qt's default locale after the first reading.
     void defaultSeamReadsQt()
     {
         QTemporaryDir dir;
-        for (const char* locale : {"en_US", "de_DE"})
+        for (const char* locale : {"en_US", "de_DE", "ru_RU"})
             QDir().mkpath(dir.filePath(QStringLiteral("resources/locales/") + QLatin1String(locale)));
         LookAndFeelManager manager(Core::ioPath(dir.path()), "theme.title", {}, {});
         manager.SetLocale(std::string());
         QCOMPARE(manager.GetCurrentLocale(), std::string("de_DE"));
+        const QLocale before;
+        QLocale::setDefault(QLocale(QStringLiteral("ru_RU")));
+        manager.SetLocale("fr_FR");
+        QLocale::setDefault(before);
+        QCOMPARE(manager.GetCurrentLocale(), std::string("ru_RU"));
     }
 
     void translatorsFollowTheLocale()

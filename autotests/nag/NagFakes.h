@@ -62,14 +62,14 @@ class FakeLinksManager : public App::ILinksManager
 public:
     QString GetUrl(const QString& key) const override
     {
-        const auto found = App::UrlTemplates().find(Util::QStringToUtf8(key));
-        return found == App::UrlTemplates().end() ? QString()
-                                                  : GenerateUrl(Util::Utf8ToQString(found->second), {});
+        const auto found = App::UrlTemplates.find(Util::QStringToUtf8(key));
+        return found == App::UrlTemplates.end() ? QString()
+                                                : GenerateUrl(Util::Utf8ToQString(found->second), {});
     }
     QString GetUrl(App::URLKeys key) const override
     {
-        const auto name = App::UrlKeyNames().find(key);
-        return name == App::UrlKeyNames().end() ? QString() : GetUrl(Util::Utf8ToQString(name->second));
+        const auto name = App::UrlKeyNames.find(key);
+        return name == App::UrlKeyNames.end() ? QString() : GetUrl(Util::Utf8ToQString(name->second));
     }
     QString GenerateUrl(const QString& url, QMap<QString, QString> parameters) const override
     {

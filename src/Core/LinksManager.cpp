@@ -129,7 +129,7 @@ public:
     // The built-in template with the customization's hosts, or the customization's own template.
     QString templateFor(const std::string& keyName, bool* known) const
     {
-        const auto& templates = UrlTemplates();
+        const auto& templates = UrlTemplates;
         const auto builtIn = templates.find(keyName);
         *known = builtIn != templates.end();
         const std::string custom = customization->GetCustomValue("Links/" + keyName);
@@ -189,7 +189,7 @@ QString LinksManager::GetUrl(const QString& key) const
 
 QString LinksManager::GetUrl(URLKeys key) const
 {
-    const auto& names = UrlKeyNames();
+    const auto& names = UrlKeyNames;
     const auto name = names.find(key);
     if (name == names.end()) {
         LOG(WARNING) << "No link under the key number " << static_cast<int>(key);

@@ -18,7 +18,7 @@ class IPartnerTracking;
 class IProductSettingsManager;
 class IUserSettingsManager;
 
-/// The product's links: UrlTemplates() filled from the components it is given, opened through
+/// The product's links: UrlTemplates filled from the components it is given, opened through
 /// QDesktopServices so that a URL handler of the process sees every one.
 ///
 /// The macros of a template:

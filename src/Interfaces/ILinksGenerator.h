@@ -15,7 +15,7 @@ public:
     /// The finished URL for a key name; empty for a name that is no key.
     virtual QString GetUrl(const QString& key) const = 0;
     virtual QString GetUrl(URLKeys key) const = 0;
-    /// A finished URL from `url`, a template in the form of UrlTemplates(), with `parameters`
+    /// A finished URL from `url`, a template in the form of UrlTemplates, with `parameters`
     /// filling its placeholders.
     virtual QString GenerateUrl(const QString& url, QMap<QString, QString> parameters) const = 0;
 };

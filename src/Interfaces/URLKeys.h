@@ -118,13 +118,13 @@ enum URLKeys : std::int32_t
 };
 
 /// Each key's enumerator spelled as a string (the key name), letter for letter.
-OSTREL_CORE_EXPORT const std::map<URLKeys, std::string>& UrlKeyNames();
+OSTREL_CORE_EXPORT extern const std::map<URLKeys, std::string> UrlKeyNames;
 
 /// Key name to URL template. Macros of the form "-NAME-" and the placeholders "%1", "%2" are
 /// filled by the links manager; "-TAIL_WITH_ARGS-" is the query common to every link and "-AMP-"
 /// a "&" behind it. The product's own endpoints appear with the default hosts of
 /// UrlEndpointHosts(), which a customization may replace; outside services keep their own hosts.
-OSTREL_CORE_EXPORT const std::map<std::string, std::string>& UrlTemplates();
+OSTREL_CORE_EXPORT extern const std::map<std::string, std::string> UrlTemplates;
 
 /// The product's endpoints: the customization key that names each one's host ("Hosts/<name>")
 /// and the default host that the templates carry.

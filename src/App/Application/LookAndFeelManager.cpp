@@ -132,9 +132,12 @@ public:
     std::optional<CompositionInputs> m_composedFrom;
     QString m_composed; // the text composed from m_composedFrom, before the preprocessor
 
-    // Worked out once: the system's languages do not change under a running application, and
-    // the locale folders are read once, like the lists of locales and themes.
+    // The system's languages are worked out again only when Qt's default locale is no longer the
+    // one they were read under (a product may call QLocale::setDefault at any time; comparing two
+    // QLocale is cheap, reading the languages is not). The locale folders are read once, like the
+    // lists of locales and themes.
     mutable std::optional<std::list<std::string>> m_candidates;
+    mutable QLocale m_candidatesLocale;
     std::map<std::string, QStringList> m_translationFiles;
 
     QString resourcesDir() const { return (m_path / Core::ioPath("resources")).toQString(); }
@@ -313,8 +316,11 @@ std::string LookAndFeelManager::ValidateLocale(const std::string& requested) con
         std::find(locales.begin(), locales.end(), requested) != locales.end())
         return requested;
 
-    if (!d->m_candidates)
+    const QLocale current;
+    if (!d->m_candidates || d->m_candidatesLocale != current) {
         d->m_candidates = systemCandidates();
+        d->m_candidatesLocale = current;
+    }
     const std::list<std::string>& candidates = *d->m_candidates;
 
     std::string result = GetDefaultLocale();

@@ -72,8 +72,8 @@ void FindLinkKey(Params& map, const QString& urlText)
     const QUrl clicked(urlText, QUrl::TolerantMode);
     const QString clickedBase = withoutQuery(clicked);
     const QString clickedAsrc = QUrlQuery(clicked).queryItemValue(QStringLiteral("asrc"));
-    const auto& templates = UrlTemplates();
-    for (const auto& [key, name] : UrlKeyNames()) {
+    const auto& templates = UrlTemplates;
+    for (const auto& [key, name] : UrlKeyNames) {
         const auto found = templates.find(name);
         if (found == templates.end() || found->second.empty())
             continue;
@@ -294,9 +294,9 @@ public:
     {
         const QVariant values(params);
         track("NAG_LINK_CLICK", content, &values, [&](Params& event) {
-            const auto name = UrlKeyNames().find(key);
+            const auto name = UrlKeyNames.find(key);
             event["NAG_LINK_URL_KEY"] =
-                name != UrlKeyNames().end() ? name->second : std::to_string(static_cast<int>(key));
+                name != UrlKeyNames.end() ? name->second : std::to_string(static_cast<int>(key));
             ReadLink(event, m_links->GetUrl(key), m_currentOperation);
         });
         m_opener->OpenUrl(content, key, params);

@@ -113,9 +113,9 @@ public:
 
     void setLocale(const std::string& locale)
     {
+        // Links take their locale from the look and feel alone (the links manager reads it for
+        // every URL); the customization keeps no locale, so there is nothing else to switch.
         lookAndFeelManager->SetLocale(locale);
-        // The customization of this tree keeps no locale of its own: the links read the look and
-        // feel's, so that is the one to switch.
     }
 
     void testUrls(const QString& path, const std::list<std::string>& chosen, bool open, int delay);
@@ -157,10 +157,10 @@ void UrlTest::Impl::testUrls(const QString& path, const std::list<std::string>& 
             setLocale(locale);
             const std::size_t first = records.size();
             // Every key the vocabulary defines, in ascending order; the numbering has gaps.
-            for (const auto& entry : UrlKeyNames()) {
+            for (const auto& entry : UrlKeyNames) {
                 const URLKeys key = entry.first;
                 const std::string url = Util::QStringToUtf8(linksManager->GetUrl(key));
-                const std::string& name = UrlKeyNames().at(key);
+                const std::string& name = UrlKeyNames.at(key);
                 if (!url.empty())
                     records.push_back({name, url});
                 else {
