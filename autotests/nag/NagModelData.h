@@ -61,3 +61,8 @@ inline const char* Json8()
 {
     return R"({"NagScreenSettings": {"SendNagHashEvent": {"DefaultValue": true}}})";
 }
+
+inline const char* Json9()
+{
+    return R"({"UpdateCheckerResolver": {"IsUpdateAllowed": {"DefaultValue": true}}})";
+}

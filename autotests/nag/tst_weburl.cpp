@@ -1,5 +1,6 @@
 // The web nag request: the whole URL for several locales with switched-off nags and a locked id,
-// the nag id locks, and web nags fetched from a local server through the nag manager.
+// the nag id locks, web nags fetched from a local server through the nag manager, and the
+// built-in web configuration the shell carries.
 
 #include "App/Application/ITopManager.h"
 #include "App/Application/NagScreen/NagIdLockStorage.h"
@@ -12,6 +13,7 @@
 #include "Nag/AbstractContent.h"
 #include "Nag/IShowStrategy.h"
 #include "Nag/NagManager.h"
+#include "Nag/WebConfigDocument.h"
 #include "QtUtil/UrlProtocol.h"
 
 #include "FakeCustomization.h"
@@ -72,7 +74,7 @@ class WebUrlTest : public QObject
     {
         return base +
                QStringLiteral(
-                   "?app=home-capture-desk&module=capture&app_ver=3-2-1&partner=acme&app_mode=free&lang=") +
+                   "?app=home-capture-desk&module=capture&app_ver=3-2-1-0&partner=acme&app_mode=free&lang=") +
                lang + QStringLiteral("&app_action=app_start&huid=") +
                QString::fromStdString(Util::SHA1::digest("machine-42")) + QStringLiteral("&protocol=1&os=") +
                Util::Utf8ToQString(Core::SystemName()) + QStringLiteral("&os_bits=") +
@@ -150,6 +152,28 @@ private Q_SLOTS:
         QCOMPARE(url,
                  QUrl(expected(QStringLiteral("https://msg.ostrel.com/get_nag.php"), QStringLiteral("de")),
                       QUrl::TolerantMode));
+    }
+
+    // The server receives the version as the product gives it, trailing zeros and all.
+    void wholeVersion_data()
+    {
+        QTest::addColumn<QString>("version");
+        QTest::addColumn<QString>("appVer");
+        QTest::newRow("trailing zero") << "24.1.0"
+                                       << "24-1-0";
+        QTest::newRow("four parts") << "3.2.1.7"
+                                    << "3-2-1-7";
+    }
+
+    void wholeVersion()
+    {
+        QFETCH(QString, version);
+        QFETCH(QString, appVer);
+        customization->version = Util::QStringToUtf8(version);
+        const QUrl url = generator()->Generate(QStringLiteral("free"), QStringLiteral("app_start"),
+                                               QStringLiteral("en_US"));
+        customization->version = "3.2.1.0";
+        QCOMPARE(QUrlQuery(url).queryItemValue(QStringLiteral("app_ver")), appVer);
     }
 
     void nothingSwitchedOffNorLocked()
@@ -267,6 +291,38 @@ private Q_SLOTS:
         QFETCH(QString, locale);
         QFETCH(QString, code);
         QCOMPARE(WebNagUrlGenerator::LanguageCode(locale), code);
+    }
+
+    // The built-in web configuration, which the shell carries.
+    void webConfiguration_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QVariant>("expected");
+        QTest::newRow("default") << "ACTION_OSTREL_FACEBOOK"
+                                 << "en_US" << QVariant(QStringLiteral("SHOW=ActionOstrelFacebook"));
+        QTest::newRow("ru_RU override") << "ACTION_OSTREL_FACEBOOK"
+                                        << "ru_RU" << QVariant(QStringLiteral("HIDE=ActionOstrelFacebook"));
+        QTest::newRow("ru_RU shows VK") << "ACTION_OSTREL_VK"
+                                        << "ru_RU" << QVariant(QStringLiteral("SHOW=ActionOstrelVK"));
+        QTest::newRow("locale is exact")
+            << "ACTION_OSTREL_OK"
+            << "ru" << QVariant(QStringLiteral("HIDE=ActionOstrelOdnoklassniki"));
+        QTest::newRow("absent key") << "ACTION_NOTHING"
+                                    << "ru_RU" << QVariant();
+    }
+    void webConfiguration()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, locale);
+        const auto document = WebConfig::WebConfigDocument::defaults();
+        QTEST(document.value(QStringLiteral("CustomizationSettings"), key, locale), "expected");
+        QCOMPARE(document.value(QStringLiteral("UpdateCheckerResolver"), QStringLiteral("IsUpdateAllowed"),
+                                locale),
+                 QVariant(true));
+        QCOMPARE(
+            document.value(QStringLiteral("UpdateCheckerResolver"), QStringLiteral("AppcastUrl"), locale),
+            QVariant(QString()));
     }
 
     void protocolSwitch()

@@ -12,8 +12,9 @@ class FakeCustomization : public App::ICustomizationManager
 {
 public:
     std::map<std::string, std::string> custom;
+    std::string version = "3.2.1.0";
     std::string GetApplicationName() const override { return "Links Probe"; }
-    std::string GetVersion() const override { return "3.2.1.0"; }
+    std::string GetVersion() const override { return version; }
     std::string GetOrganizationName() const override { return "Probe Org"; }
     std::string GetPartnerName() const override { return "builtin partner"; }
     std::string GetModuleName() const override { return "capture"; }

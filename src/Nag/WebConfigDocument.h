@@ -22,7 +22,10 @@ public:
     WebConfigDocument();
     /// A document that isn't a JSON object of objects logs one error and reads as empty.
     static WebConfigDocument fromJson(const QByteArray& json);
-    /// The built-in defaults of the product.
+    /// The built-in defaults of the product, read from ":/webConfig/defaultWebConfig.json". The
+    /// shell library carries that resource (it owns the strategies and actions the defaults speak
+    /// of), so a product that brings a nag library of its own keeps them; without the shell the
+    /// document logs one error and reads as empty.
     static WebConfigDocument defaults();
 
     bool isEmpty() const;

@@ -12,7 +12,6 @@
 #include "Interfaces/ILookAndFeelManager.h"
 #include "Interfaces/IProductSettingsManager.h"
 #include "Interfaces/IUserSettingsManager.h"
-#include "QtUtil/ApplicationVisibleVersion.h"
 #include "QtUtil/UrlProtocol.h"
 
 #include <glog/logging.h>
@@ -74,8 +73,11 @@ WebNagUrlGenerator::WebNagUrlGenerator(const ITopManager& top,
     const auto customization = top.get<ICustomizationManager>();
     if (m_appName.isEmpty() && customization)
         m_appName = Util::Utf8ToQString(customization->GetInternalId());
+    // The server tells builds apart by the whole version: "24.1.0" is asked as 24-1-0, not as the
+    // "24.1" the user sees (GenerateApplicationVisibleVersion trims for the eye only).
     if (customization)
-        m_appVersion = Util::GenerateApplicationVisibleVersion(customization->GetVersion())
+        m_appVersion = Util::Utf8ToQString(customization->GetVersion())
+                           .trimmed()
                            .replace(QLatin1Char('.'), QLatin1Char('-'));
     else
         LOG(ERROR) << "The web nag URL has no product version: the customization manager is not set yet";

@@ -4,7 +4,24 @@
 
 var locale = "";
 
-var translationMap = {
+const translationMap = {
+    // A label of the picture, a mock-up of the product's own screen: the same in every locale.
+    "PRO": {
+        "de_DE": "PRO",
+        "en_US": "PRO",
+        "es_ES": "PRO",
+        "fr_FR": "PRO",
+        "it_IT": "PRO",
+        "ja_JP": "PRO",
+        "ko_KR": "PRO",
+        "nl_NL": "PRO",
+        "pl_PL": "PRO",
+        "pt_BR": "PRO",
+        "ru_RU": "PRO",
+        "tr_TR": "PRO",
+        "zh_CN": "PRO",
+        "zh_TW": "PRO"
+    },
     "Close": {
         "de_DE": "Schließen",
         "en_US": "Close",
@@ -157,6 +174,9 @@ function getCurrentLocale() {
     return locale;
 }
 
+// The text of `tag` in the nag's locale. A locale the map lacks for that tag shows the "en_US"
+// text; a tag the map lacks shows the tag itself, which is how a symbol with no words (a check
+// mark, the close cross) needs no row.
 function getLocalizedText(tag) {
     var texts = translationMap[tag];
     if (texts === undefined)

@@ -81,9 +81,9 @@ Item {
             Text {
                 renderType: Text.QtRendering
                 anchors { horizontalCenter: parent.horizontalCenter; top: screen.bottom; topMargin: 22 }
-                text: "PRO"
+                text: TU.getLocalizedText("PRO")
                 color: "#ffffff"
-                font { family: Style.fontFamily; pixelSize: 15; bold: true; letterSpacing: 6; hintingPreference: Font.PreferNoHinting }
+                font { family: Style.fontArial; pixelSize: 15; bold: true; letterSpacing: 6; hintingPreference: Font.PreferNoHinting }
             }
         }
 
@@ -100,7 +100,7 @@ Item {
                 wrapMode: Text.WordWrap
                 text: TU.getLocalizedText("Before you go")
                 color: "#17233b"
-                font { family: Style.fontFamily; pixelSize: 28; bold: true; hintingPreference: Font.PreferNoHinting }
+                font { family: Style.fontArial; pixelSize: 28; bold: true; hintingPreference: Font.PreferNoHinting }
             }
             Text {
                 renderType: Text.QtRendering
@@ -109,7 +109,7 @@ Item {
                 text: TU.getLocalizedText("Unlock everything %1 can do").arg(callback.GetProductNameWithOrganization())
                 color: "#4a5670"
                 lineHeight: 1.2
-                font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting }
+                font { family: Style.fontArial; pixelSize: 15; hintingPreference: Font.PreferNoHinting }
             }
             Column {
                 spacing: 10
@@ -120,9 +120,9 @@ Item {
                         spacing: 10
                         Rectangle {
                             width: 18; height: 18; radius: 9; color: "#fbe6ee"
-                            Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2713"; color: "#ad3866"; Accessible.ignored: true; font { family: Style.fontFamily; pixelSize: 12; bold: true; hintingPreference: Font.PreferNoHinting } }
+                            Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("\u2713"); color: "#ad3866"; Accessible.ignored: true; font { family: Style.fontArial; pixelSize: 12; bold: true; hintingPreference: Font.PreferNoHinting } }
                         }
-                        Text { renderType: Text.QtRendering; width: body.width - 28; wrapMode: Text.WordWrap; text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
+                        Text { renderType: Text.QtRendering; width: body.width - 28; wrapMode: Text.WordWrap; text: TU.getLocalizedText(modelData); color: "#2a3550"; font { family: Style.fontArial; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
                     }
                 }
             }
@@ -138,7 +138,7 @@ Item {
                 id: primary
                 width: Math.min(buttons.width, Math.max(170, primaryLabel.implicitWidth + 48)); height: 44; radius: 6
                 color: primaryArea.pressed ? "#a3345f" : (primaryArea.containsMouse ? "#b83d6d" : "#c8457a")
-                Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Upgrade now"); color: "#ffffff"; font { family: Style.fontFamily; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
+                Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Upgrade now"); color: "#ffffff"; font { family: Style.fontArial; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.buyNow() }
                 KeyControl { name: primaryLabel.text; onActivated: root.buyNow() }
             }
@@ -146,7 +146,7 @@ Item {
                 width: Math.min(buttons.width, Math.max(110, laterLabel.implicitWidth + 40)); height: 44; radius: 6
                 color: laterArea.containsMouse ? "#f1f4f9" : "#ffffff"
                 border.color: "#cdd5e3"
-                Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Not now"); color: "#3b4863"; font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
+                Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Not now"); color: "#3b4863"; font { family: Style.fontArial; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: laterArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
                 KeyControl { name: laterLabel.text; onActivated: root.close() }
             }
@@ -160,7 +160,7 @@ Item {
             text: TU.getLocalizedText("<a href=\"#\">Compare editions</a>")
             textFormat: Text.RichText
             linkColor: "#c8457a"
-            font { family: Style.fontFamily; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
+            font { family: Style.fontArial; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
             onLinkActivated: root.openLink(root.compareUrl)
             MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; cursorShape: Qt.PointingHandCursor }
             KeyControl { role: Accessible.Link; name: parent.text.replace(/<[^>]*>/g, ""); onActivated: parent.linkActivated("#") }
@@ -171,7 +171,7 @@ Item {
             anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
             text: TU.getLocalizedText("Don't show again")
             color: dontShowArea.containsMouse ? "#4a5670" : "#647086"
-            font { family: Style.fontFamily; pixelSize: 12; hintingPreference: Font.PreferNoHinting }
+            font { family: Style.fontArial; pixelSize: 12; hintingPreference: Font.PreferNoHinting }
             MouseArea { id: dontShowArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.dontShow() }
             KeyControl { name: dontShowLabel.text; onActivated: root.dontShow() }
         }
@@ -183,7 +183,7 @@ Item {
         anchors.top: parent.top
         anchors.topMargin: 12
         color: closeArea.containsMouse ? "#eef1f6" : "transparent"
-        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; Accessible.ignored: true; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
+        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("\u2715"); color: "#6b7690"; Accessible.ignored: true; font { family: Style.fontArial; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
         MouseArea { id: closeArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
         KeyControl { name: TU.getLocalizedText("Close"); onActivated: root.close() }
     }

@@ -4,7 +4,24 @@
 
 var locale = "";
 
-var translationMap = {
+const translationMap = {
+    // A label of the picture, a mock-up of the product's own screen: the same in every locale.
+    "\u25CF REC  00:42": {
+        "de_DE": "\u25CF REC  00:42",
+        "en_US": "\u25CF REC  00:42",
+        "es_ES": "\u25CF REC  00:42",
+        "fr_FR": "\u25CF REC  00:42",
+        "it_IT": "\u25CF REC  00:42",
+        "ja_JP": "\u25CF REC  00:42",
+        "ko_KR": "\u25CF REC  00:42",
+        "nl_NL": "\u25CF REC  00:42",
+        "pl_PL": "\u25CF REC  00:42",
+        "pt_BR": "\u25CF REC  00:42",
+        "ru_RU": "\u25CF REC  00:42",
+        "tr_TR": "\u25CF REC  00:42",
+        "zh_CN": "\u25CF REC  00:42",
+        "zh_TW": "\u25CF REC  00:42"
+    },
     "Close": {
         "de_DE": "Schließen",
         "en_US": "Close",
@@ -173,6 +190,9 @@ function getCurrentLocale() {
     return locale;
 }
 
+// The text of `tag` in the nag's locale. A locale the map lacks for that tag shows the "en_US"
+// text; a tag the map lacks shows the tag itself, which is how a symbol with no words (a check
+// mark, the close cross) needs no row.
 function getLocalizedText(tag) {
     var texts = translationMap[tag];
     if (texts === undefined)

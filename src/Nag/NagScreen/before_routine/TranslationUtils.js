@@ -4,7 +4,24 @@
 
 var locale = "";
 
-var translationMap = {
+const translationMap = {
+    // A label of the picture, a mock-up of the product's own screen: the same in every locale.
+    "\u00A9 watermark": {
+        "de_DE": "\u00A9 watermark",
+        "en_US": "\u00A9 watermark",
+        "es_ES": "\u00A9 watermark",
+        "fr_FR": "\u00A9 watermark",
+        "it_IT": "\u00A9 watermark",
+        "ja_JP": "\u00A9 watermark",
+        "ko_KR": "\u00A9 watermark",
+        "nl_NL": "\u00A9 watermark",
+        "pl_PL": "\u00A9 watermark",
+        "pt_BR": "\u00A9 watermark",
+        "ru_RU": "\u00A9 watermark",
+        "tr_TR": "\u00A9 watermark",
+        "zh_CN": "\u00A9 watermark",
+        "zh_TW": "\u00A9 watermark"
+    },
     "Close": {
         "de_DE": "Schließen",
         "en_US": "Close",
@@ -125,6 +142,9 @@ function getCurrentLocale() {
     return locale;
 }
 
+// The text of `tag` in the nag's locale. A locale the map lacks for that tag shows the "en_US"
+// text; a tag the map lacks shows the tag itself, which is how a symbol with no words (a check
+// mark, the close cross) needs no row.
 function getLocalizedText(tag) {
     var texts = translationMap[tag];
     if (texts === undefined)

@@ -81,9 +81,9 @@ Item {
             Text {
                 renderType: Text.QtRendering
                 anchors { horizontalCenter: parent.horizontalCenter; top: screen.bottom; topMargin: 22 }
-                text: "\u00A9 watermark"
+                text: TU.getLocalizedText("\u00A9 watermark")
                 color: "#ffffff"
-                font { family: Style.fontFamily; pixelSize: 14; italic: true; hintingPreference: Font.PreferNoHinting }
+                font { family: Style.fontArial; pixelSize: 14; italic: true; hintingPreference: Font.PreferNoHinting }
             }
         }
 
@@ -100,7 +100,7 @@ Item {
                 wrapMode: Text.WordWrap
                 text: TU.getLocalizedText("Your export will carry a watermark")
                 color: "#17233b"
-                font { family: Style.fontFamily; pixelSize: 28; bold: true; hintingPreference: Font.PreferNoHinting }
+                font { family: Style.fontArial; pixelSize: 28; bold: true; hintingPreference: Font.PreferNoHinting }
             }
             Text {
                 renderType: Text.QtRendering
@@ -109,7 +109,7 @@ Item {
                 text: TU.getLocalizedText("The free edition marks every exported file. Remove the mark once and for all with the full edition.")
                 color: "#4a5670"
                 lineHeight: 1.2
-                font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting }
+                font { family: Style.fontArial; pixelSize: 15; hintingPreference: Font.PreferNoHinting }
             }
         }
 
@@ -123,7 +123,7 @@ Item {
                 id: primary
                 width: Math.min(buttons.width, Math.max(170, primaryLabel.implicitWidth + 48)); height: 44; radius: 6
                 color: primaryArea.pressed ? "#0b6154" : (primaryArea.containsMouse ? "#0d7060" : "#0f7d6b")
-                Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Remove watermark"); color: "#ffffff"; font { family: Style.fontFamily; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
+                Text { id: primaryLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Remove watermark"); color: "#ffffff"; font { family: Style.fontArial; pixelSize: 15; bold: true; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: primaryArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.buyNow() }
                 KeyControl { name: primaryLabel.text; onActivated: root.buyNow() }
             }
@@ -131,7 +131,7 @@ Item {
                 width: Math.min(buttons.width, Math.max(110, laterLabel.implicitWidth + 40)); height: 44; radius: 6
                 color: laterArea.containsMouse ? "#f1f4f9" : "#ffffff"
                 border.color: "#cdd5e3"
-                Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Export with watermark"); color: "#3b4863"; font { family: Style.fontFamily; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
+                Text { id: laterLabel; renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("Export with watermark"); color: "#3b4863"; font { family: Style.fontArial; pixelSize: 15; hintingPreference: Font.PreferNoHinting } }
                 MouseArea { id: laterArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.accept() }
                 KeyControl { name: laterLabel.text; onActivated: root.accept() }
             }
@@ -145,7 +145,7 @@ Item {
             text: TU.getLocalizedText("<a href=\"#\">Why is there a watermark?</a>")
             textFormat: Text.RichText
             linkColor: "#0f7d6b"
-            font { family: Style.fontFamily; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
+            font { family: Style.fontArial; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
             onLinkActivated: root.openLink(root.whyUrl)
             MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; cursorShape: Qt.PointingHandCursor }
             KeyControl { role: Accessible.Link; name: parent.text.replace(/<[^>]*>/g, ""); onActivated: parent.linkActivated("#") }
@@ -156,7 +156,7 @@ Item {
             anchors { right: parent.right; bottom: parent.bottom; rightMargin: 48; bottomMargin: 28 }
             text: TU.getLocalizedText("Don't show again")
             color: dontShowArea.containsMouse ? "#4a5670" : "#647086"
-            font { family: Style.fontFamily; pixelSize: 12; hintingPreference: Font.PreferNoHinting }
+            font { family: Style.fontArial; pixelSize: 12; hintingPreference: Font.PreferNoHinting }
             MouseArea { id: dontShowArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.dontShow() }
             KeyControl { name: dontShowLabel.text; onActivated: root.dontShow() }
         }
@@ -168,7 +168,7 @@ Item {
         anchors.top: parent.top
         anchors.topMargin: 12
         color: closeArea.containsMouse ? "#eef1f6" : "transparent"
-        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: "\u2715"; color: "#6b7690"; Accessible.ignored: true; font { family: Style.fontFamily; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
+        Text { renderType: Text.QtRendering; anchors.centerIn: parent; text: TU.getLocalizedText("\u2715"); color: "#6b7690"; Accessible.ignored: true; font { family: Style.fontArial; pixelSize: 14; hintingPreference: Font.PreferNoHinting } }
         MouseArea { id: closeArea; anchors.fill: parent; hoverEnabled: true; cursorShape: Qt.PointingHandCursor; onClicked: root.close() }
         KeyControl { name: TU.getLocalizedText("Close"); onActivated: root.close() }
     }
