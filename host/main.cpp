@@ -22,8 +22,10 @@
 #include "Core/ProductSettingsManager.h"
 #include "Core/UserSettingsManager.h"
 #include "Foundation/AppendFile.h"
+#include "Foundation/MaskedLogging.h"
 #include "Foundation/UserOnlyFiles.h"
 #include "Foundation/Utf8.h"
+#include "Http/HttpClient.h"
 #include "Interfaces/LifetimeObserver.h"
 #include "Ipc/LocalSocketProtocol.h"
 #include "QtUtil/QtMessageRouting.h"
@@ -78,7 +80,7 @@ QString startLogFile(const CustomizationManager& customization)
     if (!Core::UserOnlyFiles::makeFolder(folder)) {
         LOG(WARNING) << "Cannot create the log folder " << Util::QStringToUtf8(folder)
                      << ", logging to standard error";
-        FLAGS_logtostderr = true;
+        Core::MaskedLogging::setConsoleThreshold(google::GLOG_INFO);
         return QStringLiteral("<standard error>");
     }
     QString file = folder + QStringLiteral("/ostrel-host.log");
@@ -92,9 +94,8 @@ QString startLogFile(const CustomizationManager& customization)
         QFile::remove(file + QStringLiteral(".1"));
         QFile::rename(file, file + QStringLiteral(".1"));
     }
-    FLAGS_logtostderr = false;
     FLAGS_timestamp_in_logfile_name = false;
-    FLAGS_stderrthreshold = google::GLOG_WARNING;
+    Core::MaskedLogging::setConsoleThreshold(google::GLOG_WARNING);
     // The log is the user's alone, starts afresh past 10 MB, and stops rather than fails when
     // the disk is full.
     FLAGS_logfile_mode = 0600;
@@ -113,6 +114,8 @@ int main(int argc, char** argv)
     // Standard error until the log file is known, so that nothing lands in glog's default folder.
     FLAGS_logtostderr = true;
     google::InitGoogleLogging(argv[0]); // GLOG_v in the environment sets the verbose level
+    // From here on every line, to the file and to standard error, has the user's data masked.
+    Core::MaskedLogging::install();
 
     // Each stage of the start is timed; GLOG_v=1 shows where a slow start spends its time.
     QElapsedTimer stageClock;
@@ -213,7 +216,9 @@ int main(int argc, char** argv)
                                                                      QCoreApplication::arguments()));
     stage("components");
 
-    // 4. Nags and test options join here as the product adds them.
+    // 4. Nags and test options join here as the product adds them. A nag's e-mail form subscribes
+    //    through the application's HTTP client.
+    app.set<Networking::IHttpClient>(std::make_shared<Networking::HttpClient>());
     NagWiring nags(app, parser, protocol, productSettings);
     TrackingLifetimeObserver trackingObserver;
     lifetime->RegisterEventHandler(&trackingObserver);

@@ -54,7 +54,7 @@ int main(int argc, char** argv)
         return QApplication::exec();
     }
     if (scenario == "thread") {
-        std::thread worker([]() { throw std::runtime_error("failure in a thread"); });
+        std::thread worker([]() { throw std::runtime_error("failure in a thread for jo@x.example"); });
         worker.join();
         return 0;
     }

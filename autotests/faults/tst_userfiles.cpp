@@ -1,20 +1,21 @@
+#include "RecordingHttpServer.h"
 #include "TestFiles.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QProcess>
+#include <QTcpSocket>
 #include <QTemporaryDir>
+#include <QUrl>
 #include <QtTest>
 
 using Ostrel::Test::readFile;
 using Ostrel::Test::writeFile;
 
 namespace {
-
-const QByteArray Name = "Jane Roe";
-const QByteArray Address = "jane.roe@mail.example.org";
 
 const QFileDevice::Permissions GroupOrOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
                                                QFileDevice::ExeGroup | QFileDevice::ReadOther |
@@ -41,12 +42,12 @@ public:
     QString trackingFile() const { return dataFolder() + QStringLiteral("/tracking.jsonl"); }
     QString logFile() const { return dataFolder() + QStringLiteral("/logs/ostrel-host.log"); }
     QString runtimeFolder() const { return m_dir.filePath(QStringLiteral("run")); }
+    QString path(const QString& name) const { return name.isEmpty() ? m_dir.path() : m_dir.filePath(name); }
 
-    void start(QProcess& host, const QStringList& arguments, const QMap<QString, QString>& extra = {}) const
+    void start(QProcess& host, const QStringList& arguments, const QMap<QString, QString>& extra = {},
+               const QString& program = QStringLiteral(OSTREL_HOST)) const
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        for (auto it = extra.cbegin(); it != extra.cend(); ++it)
-            env.insert(it.key(), it.value());
         env.remove(QStringLiteral("OSTREL_QT_WARNINGS_FAIL"));
         env.insert(QStringLiteral("HOME"), m_dir.path());
         env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
@@ -57,9 +58,10 @@ public:
         // A browser that opens nothing, and every log line on disk as soon as it is written.
         env.insert(QStringLiteral("BROWSER"), QStringLiteral("/bin/true"));
         env.insert(QStringLiteral("GLOG_logbuflevel"), QStringLiteral("-1"));
+        for (auto it = extra.cbegin(); it != extra.cend(); ++it)
+            env.insert(it.key(), it.value());
         host.setProcessEnvironment(env);
-        host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        host.start(QStringLiteral(OSTREL_HOST), arguments);
+        host.start(program, arguments);
     }
 
 private:
@@ -119,34 +121,154 @@ private slots:
             QVERIFY2(QJsonDocument::fromJson(line).isObject(), line.constData());
     }
 
-    void personalDataStaysOutOfTrackingAndLog()
+    // The canary: a known name and address walk every path that can carry them, and then every
+    // byte the runs wrote under the user's folders, on standard output and on standard error is
+    // scanned. They may stay only in the settings file that stores them and in the user's own URL
+    // dump (both user-only), and reach only the browser's arguments. The paths walked: the first
+    // launch with the e-mail question and the thank-you page; a web nag whose address and link
+    // carry them, with a failed and a successful "collectEmail" against a local server; the update
+    // check; the URL dump; a nag request refused; a crash record.
+    void personalDataReachesNothingButSettingsAndBrowser()
     {
         HostHome home;
-        QVERIFY(writeFile(home.settingsFile(QStringLiteral("mail.ini")),
-                          "[General]\nUserName=" + Name + "\nUserEmail=" + Address + "\nisConfirmed=true\n"));
+        const QString name = QStringLiteral("Zelda Quonk");
+        const QString address = QStringLiteral("zelda.quonk+news@canary.example");
+        const QString encodedAddress = QString::fromLatin1(QUrl::toPercentEncoding(address));
+        const QString mail = home.settingsFile(QStringLiteral("mail.ini"));
+        QVERIFY(writeFile(
+            mail, QStringLiteral("[General]\nUserName=%1\nUserEmail=%2\n").arg(name, address).toUtf8()));
+        QVERIFY(QFile::setPermissions(mail, QFileDevice::ReadOwner | QFileDevice::WriteOwner));
 
-        // The first launch opens the thank-you page, whose URL carries the name and the address.
-        QProcess host;
-        home.start(host, {QStringLiteral("--no-start-nag"), QStringLiteral("--launch-type=1")});
-        const bool opened =
-            QTest::qWaitFor([&]() { return readFile(home.trackingFile()).contains("URL_OPEN"); }, 60000);
-        host.kill();
-        host.waitForFinished(10000);
-        QVERIFY2(opened, "the host opened no URL");
+        // Outside the user's folders: the host beside a customization that points its links at a
+        // local server, and a browser that records what it is handed.
+        QTemporaryDir outside;
+        Ostrel::Test::RecordingHttpServer server;
+        const QString bin = outside.filePath(QStringLiteral("bin"));
+        QVERIFY(QDir().mkpath(bin));
+        const QString host = bin + QStringLiteral("/ostrel-host");
+        QVERIFY(QFile::copy(QStringLiteral(OSTREL_HOST), host));
+        QVERIFY(QFile::link(QFileInfo(QStringLiteral(OSTREL_HOST)).absolutePath() +
+                                QStringLiteral("/../resources"),
+                            outside.filePath(QStringLiteral("resources"))));
+        QVERIFY(writeFile(bin + QStringLiteral("/CaptureDeskCustom.ini"),
+                          QStringLiteral("[Customization]\nCollectEmail=true\n[Hosts]\nmessages=%1\n[Links]\n"
+                                         "COLLECT_EMAIL_URL=%2/subscribe?name=-NAME-&email=-EMAIL-\n"
+                                         "CHECK_FOR_UPDATES_URL=%2/update/-EMAIL-/?user_name=-NAME-\n")
+                              .arg(server.base().mid(7), server.base())
+                              .toUtf8()));
+        const QString browserArguments = outside.filePath(QStringLiteral("browser.txt"));
+        const QString browser = outside.filePath(QStringLiteral("browser.sh"));
+        QVERIFY(
+            writeFile(browser, "#!/bin/sh\nprintf '%s\\n' \"$@\" >> '" + browserArguments.toUtf8() + "'\n"));
+        QVERIFY(QFile::setPermissions(browser, QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+        QVERIFY(writeFile(home.settingsFile(QStringLiteral("product.ini")),
+                          "[General]\nPreferredBrowser=" + browser.toUtf8() + "\n"));
 
-        const QByteArray tracking = readFile(home.trackingFile());
-        QVERIFY2(tracking.contains("email=***"), tracking.constData());
-        const QByteArray log = readFile(home.logFile());
-        QVERIFY(!log.isEmpty());
-        // The settings file the start created holds the launch state beside the user's choices.
-        const QString product = home.settingsFile(QStringLiteral("product.ini"));
-        QVERIFY(QFileInfo::exists(product));
-        QCOMPARE(QFileInfo(product).permissions() & GroupOrOthers, QFileDevice::Permissions());
-        for (const QByteArray& personal :
-             {Name, QByteArray("Jane%20Roe"), QByteArray("Jane+Roe"), Address, QByteArray("jane.roe%40")}) {
-            QVERIFY2(!tracking.contains(personal), personal.constData());
-            QVERIFY2(!log.contains(personal), personal.constData());
+        // The web nag collects the address twice (the server refuses the first) and opens a link
+        // that names the user; everything else the server answers with 404.
+        int subscriptions = 0;
+        server.setHandler("/subscribe", [&subscriptions](const auto&, QTcpSocket& socket) {
+            socket.write(Ostrel::Test::RecordingHttpServer::response(++subscriptions == 1 ? 500 : 200));
+            socket.disconnectFromHost();
+        });
+        server.setReply(Ostrel::Test::RecordingHttpServer::response(404));
+        server.setReplyFor(
+            "/nag/main.qml",
+            Ostrel::Test::RecordingHttpServer::response(
+                200,
+                QStringLiteral("import QtQuick 2.0\n"
+                               "Item {\n"
+                               "    Component.onCompleted: {\n"
+                               "        callback.CustomAction('collectEmail', {name: '%1', email: '%2'})\n"
+                               "        callback.CustomAction('collectEmail', {name: '%3', email: '%4'})\n"
+                               "        callback.RequestUrl('https://offers.example/u/%5/?name=%6')\n"
+                               "        closer.start()\n"
+                               "    }\n"
+                               "    Timer { id: closer; interval: 1000; onTriggered: callback.Reject() }\n"
+                               "}\n")
+                    .arg(name, address, name.toUpper(), address.toUpper(), encodedAddress,
+                         QStringLiteral("Zelda+Quonk"))
+                    .toUtf8()));
+
+        const QMap<QString, QString> verbose{{QStringLiteral("GLOG_v"), QStringLiteral("1")}};
+        QByteArray console;
+        {
+            QProcess first;
+            home.start(first,
+                       {QStringLiteral("--launch-type=1"), QStringLiteral("--no-start-nag"),
+                        QStringLiteral("--test-ssl-disable"), QStringLiteral("--test-dump-urls"),
+                        QStringLiteral("--test-custom-locales=en_US"),
+                        QStringLiteral("--open-nag=%1/nag/main.qml?email=%2&name=Zelda%20Quonk")
+                            .arg(server.base(), encodedAddress)},
+                       verbose, host);
+            const auto walked = [&]() {
+                const QByteArray tracking = readFile(home.trackingFile());
+                const QByteArray log = readFile(home.logFile());
+                return subscriptions == 2 && tracking.count("\"URL_OPEN\"") == 2 &&
+                       tracking.contains("\"NAG_CLOSE\"") && log.contains("Update check failed") &&
+                       log.contains("CollectEmail request failed") &&
+                       log.contains("Gateway holds \"EMAIL_DIALOG\"");
+            };
+            const bool done = QTest::qWaitFor(walked, 60000);
+            first.terminate();
+            first.waitForFinished(10000);
+            console += first.readAllStandardOutput() + first.readAllStandardError();
+            QVERIFY2(done, "the run did not walk every path");
         }
+        // A request for a nag elsewhere that names the user; then an exception that ends a run.
+        {
+            QProcess refusing;
+            home.start(refusing,
+                       {QStringLiteral("--no-start-nag"),
+                        QStringLiteral("--open-nag=https://elsewhere.example/u/%1/?name=Zelda%20Quonk")
+                            .arg(address)},
+                       verbose, host);
+            const bool refused = QTest::qWaitFor(
+                [&]() { return readFile(home.logFile()).contains("Nag request refused"); }, 60000);
+            refusing.terminate();
+            refusing.waitForFinished(10000);
+            console += refusing.readAllStandardOutput() + refusing.readAllStandardError();
+            QVERIFY(refused);
+            QProcess crashing;
+            home.start(crashing,
+                       {QStringLiteral("--no-start-nag"), QStringLiteral("--test-crash-after=0"),
+                        QStringLiteral("--test-crash-reason=exception"),
+                        QStringLiteral("--test-crash-thread=main")},
+                       verbose, host);
+            QVERIFY(crashing.waitForFinished(60000));
+            console += crashing.readAllStandardOutput() + crashing.readAllStandardError();
+        }
+
+        // The browser got the user's data, as did the settings file and the user's own dump.
+        const QByteArray handed = readFile(browserArguments);
+        QVERIFY2(handed.contains("thank_you_for_install") && handed.contains("offers.example/u/zelda.quonk"),
+                 handed.constData());
+        const QStringList kept{mail, home.dataFolder() + QStringLiteral("/host-url-dump.csv")};
+        for (const QString& path : kept) {
+            QVERIFY2(readFile(path).toLower().contains("zelda.quonk"), qPrintable(path));
+            QCOMPARE(QFileInfo(path).permissions() & GroupOrOthers, QFileDevice::Permissions());
+        }
+        // Every word of the canary, in any case and any encoding (the letters survive encoding).
+        const auto carries = [](const QByteArray& bytes) {
+            const QByteArray lower = bytes.toLower();
+            return lower.contains("quonk") || lower.contains("zelda") || lower.contains("canary.example");
+        };
+        QVERIFY2(!carries(console), console.constData());
+        QStringList scanned;
+        QDirIterator files(home.path(QString()), QDir::Files | QDir::Hidden | QDir::System,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString path = files.next();
+            if (kept.contains(path))
+                continue;
+            scanned << path;
+            QVERIFY2(!carries(readFile(path)),
+                     qPrintable(path + QLatin1Char('\n') + QString::fromUtf8(readFile(path))));
+        }
+        for (const QString& expected : QStringList{home.trackingFile(), home.logFile(),
+                                                   home.dataFolder() + QStringLiteral("/crash.log")})
+            QVERIFY2(scanned.contains(expected), qPrintable(scanned.join(QLatin1Char('\n'))));
+        qInfo("Scanned %d files: %s", int(scanned.size()), qPrintable(scanned.join(QStringLiteral(", "))));
     }
 };
 

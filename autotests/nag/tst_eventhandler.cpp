@@ -125,13 +125,17 @@ private Q_SLOTS:
         QCOMPARE(opener->opened.size(), std::size_t(3));
     }
 
+    // Also: a web nag's address may carry the user's data, and every event names it.
     void theNagsOwnLocaleWins()
     {
         install();
         FakeContent content;
         content.locale = QStringLiteral("ja_JP");
+        content.source = QUrl(QStringLiteral("https://msg.example/n/jo%40x.example/?name=Don%20Quixote&l=1"));
         manager->GetShowStrategy()->ShowNag(content);
         QCOMPARE(event("NAG_SHOW").at("NAG_LOCALE"), std::string("ja_JP"));
+        QCOMPARE(event("NAG_SHOW").at("NAG_SOURCE_URL"),
+                 std::string("https://msg.example/n/***/?name=***&l=1"));
     }
 
     void operationIsRestoredAfterAnException()

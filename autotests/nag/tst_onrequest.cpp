@@ -132,6 +132,9 @@ private Q_SLOTS:
         QVERIFY(manager->shown.isEmpty());
         QCOMPARE(log.matching("Nag request refused").size(), std::size_t(1));
         QCOMPARE(log.matching("file:///tmp/evil/main.qml").size(), std::size_t(1));
+        // The refusal quotes the request, without the user's data.
+        request(QStringLiteral("https://evil.example/n/jo%40x.example/?name=Don%20Quixote"));
+        QCOMPARE(log.matching("https://evil.example/n/***/?name=***\"").size(), std::size_t(1));
     }
 
     void requestsDuringANagWaitAndOnlyTheLatestFollows()

@@ -295,6 +295,8 @@ private slots:
             expected += knownLinks(locale);
         const QString path = result.values.value(QStringLiteral("dumpPath"));
         QVERIFY(path.endsWith(QStringLiteral("/capture-url-dump.csv")));
+        // Every link carries the user's name and address: the file is the user's alone.
+        QCOMPARE(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
         QString text = readText(path);
         QVERIFY(text.isEmpty() || text.endsWith(QLatin1Char('\n')));
         text.chop(1);

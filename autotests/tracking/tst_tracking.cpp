@@ -49,7 +49,9 @@ private slots:
         QTemporaryDir dir;
         // A folder that does not exist yet: the tracker makes it.
         GeneralOstrelTracker tracker(dir.filePath(QStringLiteral("sub/tracking.jsonl")));
-        tracker.sendEvent("app_start", {{"launch_type", "1"}, {"city", "Zürich"}});
+        // Whatever field an event gains, its value passes the mask on the way to the file.
+        tracker.sendEvent("app_start",
+                          {{"launch_type", "1"}, {"city", "Zürich"}, {"any", "to jo@x.example"}});
         tracker.sendEvent("quit", {});
 
         const QList<QByteArray> lines = fileLines(tracker.filePath());
@@ -57,9 +59,10 @@ private slots:
         const QJsonObject first = parse(lines.at(0));
         QCOMPARE(first.value(QStringLiteral("event")).toString(), QStringLiteral("app_start"));
         const QJsonObject params = first.value(QStringLiteral("params")).toObject();
-        QCOMPARE(params.size(), 2);
+        QCOMPARE(params.size(), 3);
         QCOMPARE(params.value(QStringLiteral("launch_type")).toString(), QStringLiteral("1"));
         QCOMPARE(params.value(QStringLiteral("city")).toString(), QStringLiteral("Zürich"));
+        QCOMPARE(params.value(QStringLiteral("any")).toString(), QStringLiteral("to ***"));
         const QString time = first.value(QStringLiteral("time")).toString();
         const QDateTime parsed = QDateTime::fromString(time, Qt::ISODateWithMs);
         QVERIFY2(parsed.isValid(), qPrintable(time));
@@ -202,6 +205,13 @@ private slots:
                                     << QStringLiteral("HTTPS://EXAMPLE.COM/?NAME=***&EMAIL=***");
         QTest::newRow("known name in other case in a log line")
             << QStringLiteral("Opening for jane roe now") << QStringLiteral("Opening for *** now");
+        // A name this run has not filled in itself: the value ends where its query item ends.
+        QTest::newRow("blank of a shown %20 in a value")
+            << QStringLiteral("Link refused: \"https://x.example/?name=Don Quixote&lt=1\" (no)")
+            << QStringLiteral("Link refused: \"https://x.example/?name=***&lt=1\" (no)");
+        QTest::newRow("link quoted in another link")
+            << QStringLiteral("?next=https%3A%2F%2Fx.example%2F%3FNAME%3DDon%2520Quixote%26lt%3D1")
+            << QStringLiteral("?next=https%3A%2F%2Fx.example%2F%3FNAME%3D***%26lt%3D1");
         QTest::newRow("nothing personal stays")
             << QStringLiteral("https://example.com/learn-more/?lang=en&username_hint=1")
             << QStringLiteral("https://example.com/learn-more/?lang=en&username_hint=1");

@@ -1,6 +1,7 @@
 #include "Foundation/CrashRecord.h"
 
 #include "Foundation/AppendFile.h"
+#include "Foundation/PersonalDataMask.h"
 
 #include <boost/core/demangle.hpp>
 #include <boost/exception/diagnostic_information.hpp>
@@ -78,7 +79,8 @@ void TrackCurrentException(const std::string& context) noexcept
         if (CurrentExceptionRecorded())
             return;
         lastRecorded() = std::current_exception();
-        const std::string text = currentExceptionText();
+        // An exception's text may quote a URL with the user's data (an HTTP or a parsing error).
+        const std::string text = PersonalDataMask::mask(currentExceptionText());
         LOG(ERROR) << "Exception recorded" << (context.empty() ? "" : " (" + context + ")") << ": " << text;
 
         const QByteArray stamp = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs).toUtf8();

@@ -28,12 +28,32 @@ const QRegularExpression& addressPattern()
     return pattern;
 }
 
-// The query items of links that carry the name and the address; the value runs to the next item.
+// The query items of links that carry the name and the address. A value ends where its query
+// item ends, in every form a URL is written in: a display form shows "%20" as a blank, so a blank
+// does not end it; a URL quoted inside another one ("%3F", "%26", "%3D", encoded once or more)
+// ends it at the encoded separator. Whatever follows on the line up to a quote, "<" or ">" counts
+// as the value: a log line may lose its tail, a name never its second word.
+const QString& personalKeys()
+{
+    static const QString keys =
+        QStringLiteral("(?:name|email|e-mail|mail|username|user_name|first_?name|last_?name|full_?name)");
+    return keys;
+}
+
 const QRegularExpression& personalItemPattern()
 {
     static const QRegularExpression pattern(
+        QStringLiteral(R"(((?:[?&;]|%(?:25)*(?:3F|26|3B))%1=)[^&#"'<>\r\n]*)").arg(personalKeys()),
+        QRegularExpression::CaseInsensitiveOption);
+    return pattern;
+}
+
+const QRegularExpression& encodedPersonalItemPattern()
+{
+    static const QRegularExpression pattern(
         QStringLiteral(
-            R"(([?&;](?:name|email|e-mail|mail|username|user_name|first_?name|last_?name|full_?name)=)[^&#\s"]*)"),
+            R"(((?:[?&;]|%(?:25)*(?:3F|26|3B))%1%(?:25)*3D)(?:(?!%(?:25)*(?:26|23))[^&#"'<>\r\n])*)")
+            .arg(personalKeys()),
         QRegularExpression::CaseInsensitiveOption);
     return pattern;
 }
@@ -63,6 +83,7 @@ QString PersonalDataMask::mask(const QString& text)
     }
     result.replace(addressPattern(), replacement());
     result.replace(personalItemPattern(), QStringLiteral("\\1") + replacement());
+    result.replace(encodedPersonalItemPattern(), QStringLiteral("\\1") + replacement());
     return result;
 }
 

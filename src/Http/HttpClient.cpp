@@ -19,11 +19,32 @@ namespace Ostrel::Networking {
 
 namespace {
 
-// For log lines and errors: the query is left out, since that is where a request carries the user's data.
+// For log lines and errors: the query is left out, since that is where a request carries the user's
+// data, and what personal data the path holds is masked.
+QString shownText(const QUrl& url)
+{
+    return Core::PersonalDataMask::mask(
+        url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveQuery | QUrl::RemoveFragment).toString());
+}
+
 std::string shown(const QUrl& url)
 {
-    return Util::QStringToUtf8(
-        url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveQuery | QUrl::RemoveFragment).toString());
+    return Util::QStringToUtf8(shownText(url));
+}
+
+// Qt's error texts quote the request URL whole ("Error transferring <URL> - server replied: ..."):
+// the caller gets the shown form instead, so that no caller has to remember to mask it.
+std::string errorText(const QNetworkReply& reply, const QUrl& requested)
+{
+    QString text = reply.errorString();
+    for (const QUrl& url : {reply.url(), requested}) {
+        for (const QUrl::ComponentFormattingOption format : {QUrl::PrettyDecoded, QUrl::FullyEncoded}) {
+            const QString whole = url.toString(format);
+            if (!whole.isEmpty())
+                text.replace(whole, shownText(url));
+        }
+    }
+    return Util::QStringToUtf8(Core::PersonalDataMask::mask(text));
 }
 
 // Why a redirect from `from` to `to` is not followed; empty when it may be. Only web addresses are
@@ -118,8 +139,8 @@ void HttpClient::send(const HttpRequest& request, Callback done)
     const QUrl url(Util::Utf8ToQString(request.url), QUrl::StrictMode);
     const QString scheme = url.scheme();
     if (!url.isValid() || (scheme != QLatin1String("http") && scheme != QLatin1String("https"))) {
-        const std::string error = "invalid URL \"" + request.url + "\"";
-        LOG(WARNING) << "HTTP request not sent: " << Core::PersonalDataMask::mask(error);
+        const std::string error = Core::PersonalDataMask::mask("invalid URL \"" + request.url + "\"");
+        LOG(WARNING) << "HTTP request not sent: " << error;
         QTimer::singleShot(0, &d->guard, [done = std::move(done), error]() {
             HttpResponse response;
             response.error = error;
@@ -173,30 +194,29 @@ void HttpClient::send(const HttpRequest& request, Callback done)
         }
     });
 
-    QObject::connect(reply, &QNetworkReply::finished, &d->guard, [reply, state, done = std::move(done)]() {
-        reply->deleteLater();
-        HttpResponse response;
-        response.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-        state->take();
-        // Qt itself refuses a redirect to anything but http and https, before asking: the same refusal.
-        const QByteArray location = reply->rawHeader("Location");
-        if (reply->error() != QNetworkReply::NoError && !location.isEmpty()) {
-            std::string refusal =
-                redirectRefusal(state->current, state->current.resolved(QUrl::fromEncoded(location)));
-            if (!refusal.empty() && state->end(std::move(refusal)))
-                LOG(WARNING) << "HTTP " << state->cutBy;
-        }
-        if (!state->cutBy.empty())
-            response.error = state->cutBy;
-        else if (reply->error() != QNetworkReply::NoError)
-            response.error = Util::QStringToUtf8(reply->errorString());
-        response.body = state->body.toStdString();
-        if (!response.error.empty())
-            VLOG(1) << "HTTP request to "
-                    << Core::PersonalDataMask::mask(Util::QStringToUtf8(reply->url().toString()))
-                    << " failed: " << Core::PersonalDataMask::mask(response.error);
-        done(response);
-    });
+    QObject::connect(
+        reply, &QNetworkReply::finished, &d->guard, [reply, state, url, done = std::move(done)]() {
+            reply->deleteLater();
+            HttpResponse response;
+            response.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+            state->take();
+            // Qt itself refuses a redirect to anything but http and https, before asking: the same refusal.
+            const QByteArray location = reply->rawHeader("Location");
+            if (reply->error() != QNetworkReply::NoError && !location.isEmpty()) {
+                std::string refusal =
+                    redirectRefusal(state->current, state->current.resolved(QUrl::fromEncoded(location)));
+                if (!refusal.empty() && state->end(std::move(refusal)))
+                    LOG(WARNING) << "HTTP " << state->cutBy;
+            }
+            if (!state->cutBy.empty())
+                response.error = state->cutBy;
+            else if (reply->error() != QNetworkReply::NoError)
+                response.error = errorText(*reply, url);
+            response.body = state->body.toStdString();
+            if (!response.error.empty())
+                VLOG(1) << "HTTP request to " << shown(reply->url()) << " failed: " << response.error;
+            done(response);
+        });
 }
 
 } // namespace Ostrel::Networking

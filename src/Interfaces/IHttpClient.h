@@ -28,7 +28,8 @@ struct HttpRequest
 };
 
 /// What came back. `status` is the HTTP status code, 0 when no response arrived; `error` is empty
-/// on success and otherwise says what went wrong (a status of 400 and above is an error too).
+/// on success and otherwise says what went wrong (a status of 400 and above is an error too), with
+/// the user's data masked (the request URL without its query), so that it may be logged as it is.
 struct HttpResponse
 {
     int status = 0;

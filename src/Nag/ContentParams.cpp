@@ -1,5 +1,6 @@
 #include "Nag/ContentParams.h"
 
+#include "Foundation/PersonalDataMask.h"
 #include "Foundation/Utf8.h"
 #include "Nag/AbstractContent.h"
 
@@ -27,7 +28,9 @@ void appendContentParams(std::map<std::string, std::string>& params, const Abstr
     params["NAG_TYPE"] = Util::QStringToUtf8(content.Type());
     params["NAG_APP_ACTION"] = Util::QStringToUtf8(content.AppAction());
     params["NAG_APP_MODE"] = Util::QStringToUtf8(content.AppMode());
-    params["NAG_SOURCE_URL"] = Util::QStringToUtf8(content.SourceUrl().toDisplayString());
+    // A web nag's address may carry the user's data (its query is the product's own).
+    params["NAG_SOURCE_URL"] =
+        Util::QStringToUtf8(Core::PersonalDataMask::mask(content.SourceUrl().toDisplayString()));
     params["NAG_STATE"] = stateName(content.State());
 }
 

@@ -1,6 +1,7 @@
 #include "Tracking/GeneralOstrelTracker.h"
 
 #include "Foundation/AppendFile.h"
+#include "Foundation/PersonalDataMask.h"
 #include "Foundation/Utf8.h"
 
 #include <QDateTime>
@@ -51,9 +52,11 @@ QString GeneralOstrelTracker::filePath() const
 void GeneralOstrelTracker::sendEvent(const std::string& name,
                                      const std::map<std::string, std::string>& params)
 {
+    // Every value passes the mask here, whoever filled it in: a field that quotes a URL or an error
+    // text cannot carry the user's name or address into the file.
     QJsonObject jsonParams;
     for (const auto& [key, value] : params)
-        jsonParams.insert(Util::Utf8ToQString(key), Util::Utf8ToQString(value));
+        jsonParams.insert(Util::Utf8ToQString(key), Core::PersonalDataMask::mask(Util::Utf8ToQString(value)));
     QJsonObject event;
     event.insert(QStringLiteral("time"), timestamp());
     event.insert(QStringLiteral("event"), Util::Utf8ToQString(name));

@@ -12,6 +12,7 @@
 #include "Events/NotNull.h"
 #include "Foundation/AppMutexLocker.h"
 #include "Foundation/CrashRecord.h"
+#include "Foundation/PersonalDataMask.h"
 #include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IGateway.h"
@@ -410,7 +411,7 @@ void Application::Impl::showRequestedNag(NagScreen::IManager& manager, const QSt
     const QString refusal = policy.Refusal(nagUrl);
     if (!refusal.isEmpty()) {
         LOG(WARNING) << "Nag request refused, " << Util::QStringToUtf8(refusal) << ": \""
-                     << Util::QStringToUtf8(url.left(2048)) << "\"";
+                     << Util::QStringToUtf8(Core::PersonalDataMask::mask(url.left(2048))) << "\"";
         return;
     }
     struct OnScreen

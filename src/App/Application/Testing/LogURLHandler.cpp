@@ -1,5 +1,7 @@
 #include "App/Application/Testing/LogURLHandler.h"
 
+#include "Foundation/UserOnlyFiles.h"
+
 #include <QFile>
 #include <QTextStream>
 
@@ -14,6 +16,8 @@ public:
 LogURLHandler::LogURLHandler(QObject* parent, const QString& path)
     : QObject(parent), d(std::make_unique<Impl>())
 {
+    // The links carry the user's name and address: a new file is the user's alone.
+    Core::UserOnlyFiles::prepareFile(path);
     d->file = std::make_unique<QFile>(path);
     if (!d->file->open(QIODevice::WriteOnly))
         d->file.reset();

@@ -2,6 +2,8 @@
 
 #include "App/Application/Testing/DummytTestLocales.h"
 #include "App/Application/Testing/LogURLHandler.h"
+#include "Foundation/MaskedLogging.h"
+#include "Foundation/UserOnlyFiles.h"
 #include "Foundation/Utf8.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/ILinksManager.h"
@@ -72,11 +74,11 @@ int& nextOpenDelay()
 class ConsoleWarningsOff
 {
 public:
-    ConsoleWarningsOff() : m_saved(FLAGS_stderrthreshold)
+    ConsoleWarningsOff() : m_saved(Core::MaskedLogging::consoleThreshold())
     {
-        FLAGS_stderrthreshold = std::max(m_saved, int(google::GLOG_ERROR));
+        Core::MaskedLogging::setConsoleThreshold(std::max(m_saved, int(google::GLOG_ERROR)));
     }
-    ~ConsoleWarningsOff() { FLAGS_stderrthreshold = m_saved; }
+    ~ConsoleWarningsOff() { Core::MaskedLogging::setConsoleThreshold(m_saved); }
     ConsoleWarningsOff(const ConsoleWarningsOff&) = delete;
     ConsoleWarningsOff& operator=(const ConsoleWarningsOff&) = delete;
 
@@ -124,7 +126,9 @@ public:
 
 void UrlTest::Impl::testUrls(const QString& path, const std::list<std::string>& chosen, bool open, int delay)
 {
-    QDir().mkpath(QFileInfo(path).absolutePath());
+    // Every link may carry the user's name and address: the dump starts afresh as a user-only file.
+    QFile::remove(path);
+    Core::UserOnlyFiles::prepareFile(path);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         LOG(ERROR) << "Can't open file to dump: " << Util::QStringToUtf8(path);
