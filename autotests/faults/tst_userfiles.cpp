@@ -1,3 +1,4 @@
+#include "LogFile.h"
 #include "TestFiles.h"
 
 #include <QDir>
@@ -7,6 +8,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 using Ostrel::Test::readFile;
 using Ostrel::Test::writeFile;
@@ -147,6 +151,22 @@ private slots:
             QVERIFY2(!tracking.contains(personal), personal.constData());
             QVERIFY2(!log.contains(personal), personal.constData());
         }
+    }
+
+    // The host's log is its own from the moment it is chosen, not from glog's first line: of
+    // instances that start together, the others see it taken and log to files of their own.
+    void logFileIsClaimedWhenChosen()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("ostrel-host.log"));
+        QVERIFY(claimLogFile(path));
+        const pid_t child = ::fork();
+        if (child == 0)
+            ::_exit(claimLogFile(path) ? 1 : 0);
+        int status = 0;
+        QCOMPARE(::waitpid(child, &status, 0), child);
+        QVERIFY(WIFEXITED(status));
+        QCOMPARE(WEXITSTATUS(status), 0);
     }
 };
 
