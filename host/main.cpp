@@ -86,14 +86,17 @@ QString startLogFile(const CustomizationManager& customization)
     QString file = folder + QStringLiteral("/ostrel-host.log");
     // Created user-only before anything else opens it; glog creates the others with logfile_mode.
     Core::UserOnlyFiles::prepareFile(file);
-    if (isLogFileTakenByAnotherProcess(file)) {
-        file = folder + QStringLiteral("/ostrel-host.%1.log").arg(QCoreApplication::applicationPid());
-    } else if (QFileInfo(file).size() > Core::AppendFile::defaultSizeCap()) {
+    bool claimed = claimLogFile(file);
+    if (claimed && QFileInfo(file).size() > Core::AppendFile::defaultSizeCap()) {
         // glog only starts a new file past max_log_size, and appends to the same name: the cap
-        // is kept here, once a start, as for the tracking file.
+        // is kept here, once a start, as for the tracking file. The claim went with the old file.
         QFile::remove(file + QStringLiteral(".1"));
         QFile::rename(file, file + QStringLiteral(".1"));
+        Core::UserOnlyFiles::prepareFile(file);
+        claimed = claimLogFile(file);
     }
+    if (!claimed)
+        file = folder + QStringLiteral("/ostrel-host.%1.log").arg(QCoreApplication::applicationPid());
     FLAGS_timestamp_in_logfile_name = false;
     Core::MaskedLogging::setConsoleThreshold(google::GLOG_WARNING);
     // The log is the user's alone, starts afresh past 10 MB, and stops rather than fails when

@@ -156,6 +156,12 @@ private slots:
         QTest::newRow("comments, blanks, sections") << QByteArray("; one\n# two\n\n  [S]\n k = v \n") << 0;
         QTest::newRow("value continued on the next line") << QByteArray("a=first\\\n  second\nb=2\n") << 0;
         QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF[General]\na=1\r\n") << 0;
+        // QSettings reads these as nothing and would write the key back empty.
+        QTest::newRow("value of a type this build lacks")
+            << QByteArray("a=1\n[S]\nb=@Variant(\\0\\0\\0\\x7f\\0\\0\\0\\vNoSuchType\\0)\n") << 3;
+        QTest::newRow("value cut short") << QByteArray("a=@Variant(\\0\\0\\0\\n\\0\\0\n") << 1;
+        QTest::newRow("values this build reads")
+            << QByteArray("p=@Point(1 2)\nr=@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)\n") << 0;
     }
 
     void badLineKeepsTheFileUntouched()
@@ -182,6 +188,18 @@ private slots:
         QCOMPARE(errors.size(), std::size_t(1));
         QVERIFY(errors.front().find(path.toStdString()) != std::string::npos);
         QCOMPARE(countAtLeast(log, google::GLOG_ERROR), std::size_t(1));
+    }
+
+    // A lock beside the file that names no owner is not waited out at the first write.
+    void ownerlessSettingsLockIsRemovedAtOnce()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("user.ini"));
+        QVERIFY(writeFile(path + QStringLiteral(".lock"), "\x01 not a lock"));
+        LogCapture log;
+        SettingsStore(path).SetString("a", "1");
+        QCOMPARE(log.matching("named no owner; removed").size(), std::size_t(1));
+        QCOMPARE(SettingsStore(path).GetString("a", ""), std::string("1"));
     }
 
     // A store made before the product names itself lands in another folder for the whole run:

@@ -12,11 +12,32 @@
 #include "Interfaces/IHttpClient.h"
 #include "Interfaces/ILinksManager.h"
 
+#include <QCoreApplication>
 #include <QStringList>
+#include <QThread>
 
+#include <atomic>
 #include <vector>
 
 namespace Ostrel::Test {
+
+/// The links manager and the gateway belong to the GUI thread: their fakes note a call from any
+/// other, for the test to check.
+class GuiThreadOnly
+{
+public:
+    bool calledOffGuiThread() const { return m_offGuiThread; }
+
+protected:
+    void noteThread() const
+    {
+        if (QThread::currentThread() != QCoreApplication::instance()->thread())
+            m_offGuiThread = true;
+    }
+
+private:
+    mutable std::atomic<bool> m_offGuiThread{false};
+};
 
 class ExtensionCustomization : public FakeCustomization
 {
@@ -35,7 +56,7 @@ public:
 };
 
 /// Answers every key with "https://links.test/<key number>" and keeps what it was asked to open.
-class RecordingLinks : public App::ILinksManager
+class RecordingLinks : public App::ILinksManager, public GuiThreadOnly
 {
 public:
     mutable QStringList opened;
@@ -51,16 +72,24 @@ public:
             result.replace(it.key(), it.value());
         return result;
     }
-    void OpenUrl(const QString& url) const override { opened.append(url); }
-    void OpenUrl(App::URLKeys key) const override { opened.append(GetUrl(key)); }
+    void OpenUrl(const QString& url) const override
+    {
+        noteThread();
+        opened.append(url);
+    }
+    void OpenUrl(App::URLKeys key) const override { OpenUrl(GetUrl(key)); }
 };
 
 /// Holds the actions back until the test runs them.
-class HoldingGateway : public ExternalStimulus::IGateway
+class HoldingGateway : public ExternalStimulus::IGateway, public GuiThreadOnly
 {
 public:
     std::vector<ExternalStimulus::Stimulus> posted;
-    void post(const ExternalStimulus::Stimulus& stimulus) override { posted.push_back(stimulus); }
+    void post(const ExternalStimulus::Stimulus& stimulus) override
+    {
+        noteThread();
+        posted.push_back(stimulus);
+    }
     void flush() override
     {
         const auto actions = std::move(posted);

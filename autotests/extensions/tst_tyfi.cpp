@@ -101,7 +101,13 @@ private slots:
         m_gateway = std::make_shared<HoldingGateway>();
     }
 
-    void cleanup() { Tracking::ApplicationTrackerFactory::setApplicationTracker(nullptr); }
+    void cleanup()
+    {
+        Tracking::ApplicationTrackerFactory::setApplicationTracker(nullptr);
+        // The report arrives on the helper thread; what it reaches must not.
+        QVERIFY(!m_links->calledOffGuiThread());
+        QVERIFY(!m_gateway->calledOffGuiThread());
+    }
 
     void pageOnceTheWindowShows_data()
     {
@@ -182,6 +188,9 @@ private slots:
                 [&finished](int attempts) { finished << attempts; });
         waiter.Start();
         QTRY_COMPARE(finished, QList<int>{7});
+        // A waiter that has finished waits again.
+        waiter.Start();
+        QTRY_COMPARE(finished, (QList<int>{7, 7}));
     }
 
     void noWindowEverStillOpensThePage()

@@ -1,3 +1,4 @@
+#include "LogFile.h"
 #include "RecordingHttpServer.h"
 #include "TestFiles.h"
 
@@ -11,6 +12,9 @@
 #include <QTemporaryDir>
 #include <QUrl>
 #include <QtTest>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 using Ostrel::Test::readFile;
 using Ostrel::Test::writeFile;
@@ -269,6 +273,22 @@ private slots:
                                                    home.dataFolder() + QStringLiteral("/crash.log")})
             QVERIFY2(scanned.contains(expected), qPrintable(scanned.join(QLatin1Char('\n'))));
         qInfo("Scanned %d files: %s", int(scanned.size()), qPrintable(scanned.join(QStringLiteral(", "))));
+    }
+
+    // The host's log is its own from the moment it is chosen, not from glog's first line: of
+    // instances that start together, the others see it taken and log to files of their own.
+    void logFileIsClaimedWhenChosen()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("ostrel-host.log"));
+        QVERIFY(claimLogFile(path));
+        const pid_t child = ::fork();
+        if (child == 0)
+            ::_exit(claimLogFile(path) ? 1 : 0);
+        int status = 0;
+        QCOMPARE(::waitpid(child, &status, 0), child);
+        QVERIFY(WIFEXITED(status));
+        QCOMPARE(WEXITSTATUS(status), 0);
     }
 };
 

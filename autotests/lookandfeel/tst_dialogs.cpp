@@ -228,6 +228,14 @@ private slots:
         QCOMPARE(second.value(QStringLiteral("color1")), QStringLiteral("#a0b0c0"));
         QCOMPARE(second.value(QStringLiteral("color2")), first.value(QStringLiteral("color2")));
 
+        // The same table saved again takes nothing else in its group along.
+        stored->SetString(key(QStringLiteral("Color99")), "#ffffff");
+        QVERIFY(Test::ProbeRunner(QStringLiteral(LOOKANDFEEL_PROBE))
+                    .run({QStringLiteral("colors-save"), m_file, QStringLiteral("#102030"),
+                          QStringLiteral("#a0b0c0")})
+                    .exitCode == 0);
+        QVERIFY(!ApplicationSettingsManager(m_file).Has(key(QStringLiteral("Color99"))));
+
         // An entry missing below the count reads as transparent's name.
         stored->Remove(key(QStringLiteral("Color0")));
         QCOMPARE(probe({QStringLiteral("colors-load"), m_file}).value(QStringLiteral("color0")),

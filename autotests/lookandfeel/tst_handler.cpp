@@ -10,6 +10,8 @@
 #include <QMenu>
 #include <QSignalSpy>
 
+#include <algorithm>
+
 using namespace Ostrel;
 using namespace Ostrel::App;
 
@@ -99,6 +101,11 @@ private slots:
         QCOMPARE(texts(*m_locales),
                  (QStringList{QStringLiteral("English"), QStringLiteral("Deutsch"), QStringLiteral("--")}));
         QCOMPARE(checked(*m_locales), QStringLiteral("en_US"));
+        // Nor does the menu keep the separators of the earlier builds.
+        const auto owned = m_locales->findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
+        QCOMPARE(
+            std::count_if(owned.cbegin(), owned.cend(), [](const QAction* a) { return a->isSeparator(); }),
+            1);
     }
 
     void clickSwitchesRetitlesAndSignals()

@@ -70,6 +70,13 @@ QStringList applicationFontFamilies()
     return families;
 }
 
+// A font file of the build's DejaVu folder (the themes' fonts come from it too).
+QByteArray dejaVu(const char* name)
+{
+    QFile file(QStringLiteral(OSTREL_DEJAVU_DIR "/") + QLatin1String(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 QString sheet(LookAndFeelManager& manager)
 {
     return QString::fromStdString(manager.GetUnitedStylesheet());
@@ -231,7 +238,36 @@ private slots:
         manager->SetTheme(std::string());
         manager->SetTheme(theme.toStdString());
         QCOMPARE(applicationFontFamilies(), families);
+        // All removed, and the product's own font takes the freed id: the theme's comes back.
         manager->SetTheme(std::string());
+        QFontDatabase::removeAllApplicationFonts();
+        QCOMPARE(QFontDatabase::addApplicationFontFromData(dejaVu("DejaVuSerif.ttf")), 0);
+        manager->SetTheme(theme.toStdString());
+        QCOMPARE(applicationFontFamilies(), QStringList{QStringLiteral("DejaVu Serif")} + families);
+        manager->SetTheme(std::string());
+        QFontDatabase::removeAllApplicationFonts();
+    }
+
+    // Two themes' fonts under one path and of one size are two fonts.
+    void fontsAreKnownByTheirBytes()
+    {
+        QFontDatabase::removeAllApplicationFonts();
+        const QByteArray serif = dejaVu("DejaVuSerif.ttf");
+        QByteArray mono = dejaVu("DejaVuSansMono.ttf");
+        QVERIFY(mono.size() < serif.size());
+        mono.append(QByteArray(serif.size() - mono.size(), '\0'));
+        QTemporaryDir dir;
+        const QString font = dir.filePath(QStringLiteral("font.ttf"));
+        writeFile(dir.filePath(QStringLiteral("fonts.manifest")), font.toUtf8());
+        ILookAndFeelManager::ThemeDescription description;
+        description.fontManifestFiles = {dir.filePath(QStringLiteral("fonts.manifest")).toStdString()};
+        const auto manager = realTree();
+        writeFile(font, serif);
+        manager->ApplyTheme(description);
+        writeFile(font, mono);
+        manager->ApplyTheme(description);
+        QCOMPARE(applicationFontFamilies(),
+                 (QStringList{QStringLiteral("DejaVu Serif"), QStringLiteral("DejaVu Sans Mono")}));
         QFontDatabase::removeAllApplicationFonts();
     }
 

@@ -125,6 +125,26 @@ private Q_SLOTS:
         QCOMPARE(lonely.exitCode(), 1);
     }
 
+    void aLockNamingNoOwnerIsTakenOver_data()
+    {
+        QTest::addColumn<QByteArray>("lock");
+        QTest::newRow("empty: killed before writing its id") << QByteArray();
+        QTest::newRow("garbage") << QByteArray("\x01\x02 not a lock\n");
+    }
+    void aLockNamingNoOwnerIsTakenOver()
+    {
+        QFETCH(QByteArray, lock);
+        const QString product = uniqueProduct("stale");
+        QFile file(LocalSocketProtocol::ServerNameFor(product) + QStringLiteral(".lock"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(lock);
+        file.close();
+        Ostrel::Test::LogCapture log;
+        LocalSocketProtocol server(product);
+        QVERIFY(server.Listen());
+        QCOMPARE(log.matching("named no owner; this instance takes it over").size(), std::size_t(1));
+    }
+
     void aMalformedMessageIsDroppedAndTheServerGoesOn()
     {
         const QString product =

@@ -419,7 +419,9 @@ private slots:
         QFETCH(QStringList, shown);
         QFETCH(QStringList, missing);
         QFETCH(QString, webUrls);
-        QTemporaryDir dir;
+        QTemporaryDir temporary;
+        // A "%0" in the root is a folder name like any other, not a place for the locale.
+        const QDir dir(temporary.filePath(QStringLiteral("50%0off")));
         const QStringList locales{QStringLiteral("de_DE"), QStringLiteral("en_US")};
         QStringList options{QStringLiteral("--test-nag-screens="), QStringLiteral("--test-show-nag-delay=0"),
                             QStringLiteral("--test-custom-locales=en_US,de_DE"),

@@ -7,6 +7,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
 #include <QStringList>
 #include <QVariant>
@@ -110,6 +111,7 @@ public:
     // and a file that fails stays as it is.
     void checkBeforeFirstWrite()
     {
+        clearOwnerlessLock();
         QFile file(filePath);
         if (!file.exists()) {
             // Created user-only before QSettings writes it: its atomic save keeps the mode of the
@@ -121,13 +123,35 @@ public:
         }
         if (!file.open(QIODevice::ReadOnly))
             return; // reported at opening
-        const std::optional<int> badLine = SettingsText::firstMalformedLine(file.readAll());
-        if (!badLine)
+        const QByteArray text = file.readAll();
+        const std::optional<int> badLine = SettingsText::firstMalformedLine(text);
+        const std::optional<int> undecodable =
+            badLine ? std::nullopt : SettingsText::firstUndecodableLine(text);
+        if (!badLine && !undecodable)
             return;
         readOnly = true;
         LOG(ERROR) << "Settings file " << Util::QStringToUtf8(filePath)
-                   << " has a line that is not a setting (line " << *badLine
+                   << (badLine ? " has a line that is not a setting (line " + std::to_string(*badLine)
+                               : " has a value this build cannot read (line " + std::to_string(*undecodable))
                    << "); it is left untouched and nothing is saved to it in this run";
+    }
+
+    // QSettings saves under a lock file and takes over one whose owner it can't find only once
+    // the file is 30 s old, all that time on the writing (GUI) thread. A lock that names no owner
+    // at all (empty, garbage) is gone at once instead.
+    void clearOwnerlessLock() const
+    {
+        const QString lockPath = filePath + QStringLiteral(".lock");
+        if (!QFileInfo::exists(lockPath))
+            return;
+        QLockFile lock(lockPath);
+        qint64 pid = 0;
+        QString host;
+        QString application;
+        // A live saver keeps the file locked while it writes its id: then the removal fails.
+        if (!lock.getLockInfo(&pid, &host, &application) && lock.removeStaleLockFile())
+            LOG(WARNING) << "Settings lock file " << Util::QStringToUtf8(lockPath)
+                         << " named no owner; removed";
     }
 
     void write(const std::string& key, const QVariant& value)

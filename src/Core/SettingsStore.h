@@ -15,9 +15,12 @@ namespace Ostrel::App {
 ///   ("abc" read as a number), the latter with a WARNING line naming key and file.
 ///   Booleans read "true"/"false"/"1"/"0" in any case.
 /// - Every write reaches the disk before it returns, so a crash never loses a value.
-/// - A file that exists but cannot be read or parsed is never overwritten: the store logs one
-///   ERROR line naming the file, serves what it could read and ignores writes (each with a
+/// - A file that exists but cannot be read or parsed, or holds a value this build cannot decode
+///   ("@Variant(...)" of an unknown type), is never overwritten: the store logs one ERROR line
+///   naming the file (and the line), serves what it could read and ignores writes (each with a
 ///   WARNING) for the rest of the run.
+/// - A lock file beside it that names no owner is removed at the first write, with a WARNING,
+///   rather than waited out.
 /// - An empty key or group is refused with a WARNING; an empty group for RemoveGroup would
 ///   otherwise mean "everything".
 /// Safe to use from several threads.

@@ -15,4 +15,9 @@ std::optional<bool> parseBool(const QString& text);
 /// every line is one of them.
 std::optional<int> firstMalformedLine(const QByteArray& text);
 
+/// The number (from 1) of the first "key=@Variant(...)" line whose value QSettings can't decode
+/// (a type of a newer build or another tool, a cut value), so that its next save would write the
+/// key back otherwise (empty). Nothing when every such value comes back as it is.
+std::optional<int> firstUndecodableLine(const QByteArray& text);
+
 } // namespace Ostrel::App::SettingsText

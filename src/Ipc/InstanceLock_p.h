@@ -8,7 +8,8 @@ namespace Ostrel::App {
 
 /// Decides which process of the product and user is the primary instance, the one that listens
 /// for requests: whoever holds the lock. The operating system lets go of it when the holder ends
-/// in any way, so a crashed primary never blocks the next one.
+/// in any way, so a crashed primary never blocks the next one; nor does a lock file that names no
+/// owner (one killed while it made the file): it is taken over, with a WARNING.
 class InstanceLock
 {
 public:

@@ -60,8 +60,11 @@ ColorDialogHelper::~ColorDialogHelper()
     if (!settings)
         return;
     const int count = QColorDialog::customCount();
-    // Every write saves the whole file: a table the settings already hold is not written again.
-    bool stored = settings->GetInt(countKey(), -1) == count;
+    // Every write saves the whole file: a group that holds the table and nothing else is not
+    // written again. Anything else in it (a stray "Color99", a subgroup) goes with the rewrite.
+    bool stored = settings->GetInt(countKey(), -1) == count &&
+                  settings->ChildKeys(SettingsGroup).size() == static_cast<size_t>(count) + 1 &&
+                  settings->ChildGroups(SettingsGroup).empty();
     for (int i = 0; stored && i < count; ++i)
         stored = settings->GetString(colorKey(i), std::string()) ==
                  Util::QStringToUtf8(QColorDialog::customColor(i).name());

@@ -27,8 +27,12 @@ void rebuild(QMenu* menu, QActionGroup* group, const std::list<std::string>& key
         return;
     actions.clear();
     const QList<QAction*> shown = menu->actions();
-    for (QAction* action : shown)
+    for (QAction* action : shown) {
         menu->removeAction(action);
+        // A separator the menu made (addSeparator) has no use once out of it.
+        if (action->isSeparator() && action->parent() == menu)
+            delete action;
+    }
     const QList<QAction*> grouped = group->actions();
     for (QAction* action : grouped) {
         group->removeAction(action);

@@ -14,6 +14,7 @@
 #include <glog/logging.h>
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -60,19 +61,30 @@ std::list<std::string> subdirectoryNames(const QString& directory)
     return names;
 }
 
-// A theme's fonts stay registered when the theme changes, so a font file is registered once a
-// process; only a font someone removed since (its id has no families left) is registered again.
-// Keyed by path and size: two themes' resources may carry different fonts under one ":/" path.
+// A theme's fonts stay registered when the theme changes, so a font is registered once a process.
+// Known by its bytes: two themes' resources may carry different fonts under one path and size.
+// Qt gives a removed font's id to the next font added, so a cached id counts only while it still
+// names the families it was registered with.
 void addFontOnce(const QString& path)
 {
-    static QHash<QString, int> registered;
-    const QString key = path + QLatin1Char('|') + QString::number(QFileInfo(path).size());
+    struct Registered
+    {
+        int id;
+        QStringList families;
+    };
+    static QHash<QByteArray, Registered> registered;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        Util::FontDatabase::addApplicationFont(QStringToUtf8(path)); // logs the missing file
+        return;
+    }
+    const QByteArray key = QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha1);
     const auto it = registered.constFind(key);
-    if (it != registered.constEnd() && !QFontDatabase::applicationFontFamilies(it.value()).isEmpty())
+    if (it != registered.constEnd() && QFontDatabase::applicationFontFamilies(it->id) == it->families)
         return;
     const int id = Util::FontDatabase::addApplicationFont(QStringToUtf8(path));
     if (id >= 0)
-        registered.insert(key, id);
+        registered.insert(key, {id, QFontDatabase::applicationFontFamilies(id)});
 }
 
 // The bytes of a file opened as text, or nothing when it does not open.

@@ -12,7 +12,8 @@ std::optional<std::vector<ProcessId>> processIds()
     return std::vector<ProcessId>(ids->begin(), ids->end());
 }
 
-// A process that ended since it was listed, or one we may not open, has no path: it is left out.
+// A process that ended since it was listed, or one we may not open, has no path: its empty name
+// still goes to the caller's filter, which decides whether to keep it.
 QString imagePath(ProcessId id)
 {
     return QString::fromStdWString(Win32::ProcessImagePath(id).path);

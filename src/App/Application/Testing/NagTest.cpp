@@ -143,8 +143,12 @@ void NagTest::Impl::walk(const TestNagContext& context) const
             : context.dir;
     const QString separator = QDir::separator();
     // root/NagScreenshots/<locale>/<module>/, or root/NagScreenshots/<module>/ for all locales together.
-    const QString nameTemplate = root + separator + QStringLiteral("NagScreenshots") + separator +
-                                 QStringLiteral("%1") + context.moduleName + separator;
+    // Joined, not filled into a template: a root or module name may hold "%1" itself.
+    const auto folderOf = [&](const QString& locale) -> QString {
+        return root + separator + QStringLiteral("NagScreenshots") + separator +
+               (locale.isEmpty() ? QString() : locale + separator) + context.moduleName + separator;
+    };
+    const QString moduleFolder = folderOf(QString());
     NagHashTable hashes;
     const auto forThisModule = [&context](const NagScreen::NagRecord& record) {
         return record.modules.isEmpty() || record.modules.contains(context.moduleName);
@@ -161,7 +165,7 @@ void NagTest::Impl::walk(const TestNagContext& context) const
 
     for (const QString& locale : context.locales) {
         lookAndFeelManager->SetLocale(Util::QStringToUtf8(locale));
-        const QString folder = nameTemplate.arg(context.groupByModule ? QString() : locale + separator);
+        const QString folder = folderOf(context.groupByModule ? QString() : locale);
         QDir().mkpath(folder);
         const QString suffix = context.groupByModule ? QLatin1Char('_') + locale : QString();
         QString webUrls;
@@ -204,11 +208,11 @@ void NagTest::Impl::walk(const TestNagContext& context) const
         writeText(folder + QStringLiteral("webNagUrls") + suffix + QStringLiteral(".txt"), webUrls);
     }
     // With a folder per locale nothing has made the module's common folder yet.
-    QDir().mkpath(nameTemplate.arg(QString()));
-    writeText(nameTemplate.arg(QString()) + QStringLiteral("NagHash.md"), NagHashReport(hashes));
+    QDir().mkpath(moduleFolder);
+    writeText(moduleFolder + QStringLiteral("NagHash.md"), NagHashReport(hashes));
     lookAndFeelManager->SetLocale(previousLocale);
     LOG(INFO) << "Nag screenshots of " << context.locales.size() << " locales written below "
-              << Util::QStringToUtf8(nameTemplate.arg(QString()));
+              << Util::QStringToUtf8(moduleFolder);
 }
 
 void NagTest::Impl::show(NagScreen::AbstractContent& content, const QString& folder, const QString& name,

@@ -40,6 +40,8 @@ public:
     std::mutex mutex;
     std::condition_variable stopped;
     bool stopping = false;
+    // Set by Start, cleared by the helper thread when its wait is over.
+    std::atomic<bool> running{false};
     std::thread thread;
 };
 
@@ -60,11 +62,13 @@ OpenWindowWaiter::~OpenWindowWaiter()
 
 void OpenWindowWaiter::Start()
 {
-    // One wait per waiter: a second start does nothing.
-    if (d->thread.joinable())
+    if (d->running)
         return;
+    // The last wait has emitted its report; its thread is ending, if it has not ended already.
+    if (d->thread.joinable())
+        d->thread.join();
+    d->running = true;
     waiting = true;
-    // A new thread inherits the priority of the one that makes it.
     d->thread = std::thread([this]() { waitLoop(); });
 }
 
@@ -77,6 +81,8 @@ void OpenWindowWaiter::waitLoop()
         d->pause();
         --remaining;
     }
+    // Cleared before the report, so that whoever hears it may start the next wait.
+    d->running = false;
     emit Finished(maxAttempts - remaining);
 }
 

@@ -21,7 +21,9 @@ struct WindowWaitTimings
 /// too). Finished carries the number of attempts made and is emitted on the helper thread.
 ///
 /// The helper thread is a plain std::thread, joined by the destructor: unlike QThread's own
-/// wait, a join is a synchronisation that race checkers see.
+/// wait, a join is a synchronisation that race checkers see. It does not take its creator's
+/// priority (on Windows a new thread starts at normal priority): a loop that mostly sleeps needs
+/// none.
 ///
 /// All waiters share one flag, so only one should wait at a time.
 class OSTREL_APP_EXPORT OpenWindowWaiter : public QObject
@@ -35,6 +37,8 @@ public:
     /// Stops the wait, cutting a pause short, and returns once the helper thread has ended.
     ~OpenWindowWaiter() override;
 
+    /// Begins a wait, on the GUI thread. A waiter that is waiting ignores it; one whose wait has
+    /// finished waits again.
     void Start();
 
 signals:
