@@ -1,4 +1,5 @@
 #include "ExtensionsWiring.h"
+#include "UpdatePackage.h"
 
 #include "App/Application/Application.h"
 #include "App/Application/Extensions/ApplicationRegistryUpdater/ApplicationRegistryUpdater.h"
@@ -68,7 +69,8 @@ ExtensionsWiring::ExtensionsWiring(Application& application, ILifetimeManager& l
             if (!linksManager || !http)
                 return;
             Networking::HttpRequest request;
-            request.url = Util::QStringToUtf8(linksManager->GetUrl(URLKeys::CHECK_FOR_UPDATES_URL));
+            request.url =
+                Util::QStringToUtf8(updatePackageUrl(linksManager->GetUrl(URLKeys::CHECK_FOR_UPDATES_URL)));
             LOG(INFO) << "Update check requested: " << Core::PersonalDataMask::mask(request.url);
             http->send(request, [](const Networking::HttpResponse& response) {
                 if (response.error.empty())
@@ -106,6 +108,11 @@ ExtensionsWiring::ExtensionsWiring(Application& application, ILifetimeManager& l
         for (const auto& extension : impl->extensions)
             extension->onStart();
     });
+}
+
+std::shared_ptr<ExternalStimulus::IGateway> ExtensionsWiring::questions() const
+{
+    return d->questions;
 }
 
 // The extensions go before the HTTP client that a send of theirs may still use.

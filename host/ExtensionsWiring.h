@@ -2,6 +2,10 @@
 
 #include <memory>
 
+namespace Ostrel::ExternalStimulus {
+class IGateway;
+}
+
 namespace Ostrel::App {
 class Application;
 class ILifetimeManager;
@@ -18,6 +22,10 @@ public:
     ~ExtensionsWiring();
     ExtensionsWiring(const ExtensionsWiring&) = delete;
     ExtensionsWiring& operator=(const ExtensionsWiring&) = delete;
+
+    /// The road of everything that asks the user at the start: one at a time, never over an open
+    /// modal window (the usage statistics question).
+    std::shared_ptr<Ostrel::ExternalStimulus::IGateway> questions() const;
 
 private:
     class Impl;

@@ -93,6 +93,7 @@ LookAndFeelWiring::LookAndFeelWiring(Application& application, QMainWindow& wind
     d->colorsAction = d->optionsMenu->addAction(QString());
     connect(d->colorsAction, &QAction::triggered, this,
             [this]() { QColorDialog::getColor(Qt::white, &d->window); });
+    d->colorsAction->setObjectName(QStringLiteral("customColoursAction"));
     d->resetAction = d->optionsMenu->addAction(QString());
     d->resetAction->setObjectName(QStringLiteral("resetConfirmationsAction"));
     connect(d->resetAction, &QAction::triggered, this, [this]() {
@@ -167,11 +168,12 @@ void LookAndFeelWiring::applyTheme()
 
 void LookAndFeelWiring::retranslate()
 {
-    d->localeMenu->setTitle(tr("&Language"));
-    d->themeMenu->setTitle(tr("&Theme"));
-    d->optionsMenu->setTitle(tr("&Options"));
-    d->colorsAction->setText(tr("Custom colours..."));
-    d->resetAction->setText(tr("Reset remembered answers"));
+    // One context per menu, and the bar's titles together: what must not share a mnemonic.
+    d->localeMenu->setTitle(QCoreApplication::translate("MenuBar", "&Language"));
+    d->themeMenu->setTitle(QCoreApplication::translate("MenuBar", "&Theme"));
+    d->optionsMenu->setTitle(QCoreApplication::translate("MenuBar", "&Options"));
+    d->colorsAction->setText(QCoreApplication::translate("OptionsMenu", "Custom &Colours..."));
+    d->resetAction->setText(QCoreApplication::translate("OptionsMenu", "&Reset Remembered Answers"));
 }
 
 bool LookAndFeelWiring::eventFilter(QObject* watched, QEvent* event)

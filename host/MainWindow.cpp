@@ -3,6 +3,7 @@
 #include "GestureWiring.h"
 #include "HelpMenu.h"
 #include "LookAndFeelWiring.h"
+#include "MenuTexts.h"
 
 #include "App/Application/Application.h"
 #include "Interfaces/ICustomizationManager.h"
@@ -14,6 +15,7 @@
 #include <QAction>
 #include <QFormLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -31,9 +33,6 @@ public:
     bool launchTypeKnown = false;
     QLabel* days = nullptr;
     QLabel* brand = nullptr;
-    QMenu* fileMenu = nullptr;
-    QAction* restart = nullptr;
-    QAction* quit = nullptr;
     QString ready;
 };
 
@@ -83,13 +82,17 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
     setCentralWidget(central);
     new GestureWiring(this);
 
-    d->fileMenu = menuBar()->addMenu(QString());
-    QAction* restart = d->restart = d->fileMenu->addAction(QString());
+    QMenu* fileMenu = menuBar()->addMenu(QString());
+    fileMenu->setObjectName(QStringLiteral("fileMenu"));
+    auto* fileTexts = new MenuTexts(*fileMenu, "FileMenu", QT_TRANSLATE_NOOP("MenuBar", "&File"));
+    QAction* restart = fileTexts->addAction(QT_TRANSLATE_NOOP("FileMenu", "&Restart"));
     restart->setObjectName(QStringLiteral("restartAction"));
     connect(restart, &QAction::triggered, this, [this]() {
-        m_application.get<ILifetimeManager>()->tryToRestart(Interactive, std::string(), std::string());
+        // The new process knows it was restarted (launch type 3), not installed or started anew.
+        m_application.get<ILifetimeManager>()->tryToRestart(
+            Interactive, std::string(), "--launch-type=" + std::to_string(ILaunchTypeProcessor::Restarted));
     });
-    QAction* quit = d->quit = d->fileMenu->addAction(QString());
+    QAction* quit = fileTexts->addAction(QT_TRANSLATE_NOOP("FileMenu", "&Quit"));
     quit->setObjectName(QStringLiteral("quitAction"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this,
@@ -97,6 +100,12 @@ MainWindow::MainWindow(Application& application, QWidget* parent)
 
     retranslate();
     statusBar()->showMessage(d->ready);
+    // A menu entry under the pointer sets its (empty) status tip, which clears the bar: the
+    // greeting comes back whenever nothing else is shown.
+    connect(statusBar(), &QStatusBar::messageChanged, this, [this](const QString& message) {
+        if (message.isEmpty())
+            statusBar()->showMessage(d->ready);
+    });
 
     // Language and Theme menus, the stylesheet and the remembered answers.
     new LookAndFeelWiring(m_application, *this);
@@ -122,9 +131,6 @@ void MainWindow::retranslate()
         d->launchTypeValue->setText(tr("unknown"));
     d->days->setText(tr("Days since first start:"));
     d->brand->setText(tr("Brand:"));
-    d->fileMenu->setTitle(tr("&File"));
-    d->restart->setText(tr("&Restart"));
-    d->quit->setText(tr("&Quit"));
     // Only the greeting follows the language; a message shown meanwhile stays as it is.
     const bool greeting = !d->ready.isEmpty() && statusBar()->currentMessage() == d->ready;
     d->ready = tr("Ready");

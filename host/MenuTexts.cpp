@@ -5,7 +5,6 @@
 #include <QEvent>
 #include <QMenu>
 
-#include <utility>
 #include <vector>
 
 class MenuTexts::Impl
@@ -15,14 +14,20 @@ public:
 
     QMenu& menu;
     const char* context;
+    struct Text
+    {
+        QAction* action;
+        const char* context;
+        const char* source;
+    };
     // The title is the menu's own action, so it is the first entry like any other.
-    std::vector<std::pair<QAction*, const char*>> texts;
+    std::vector<Text> texts;
 };
 
 MenuTexts::MenuTexts(QMenu& menu, const char* context, const char* title)
     : QObject(&menu), d(std::make_unique<Impl>(menu, context))
 {
-    d->texts.emplace_back(menu.menuAction(), title);
+    d->texts.push_back({menu.menuAction(), "MenuBar", title});
     menu.installEventFilter(this);
     retranslate();
 }
@@ -32,7 +37,7 @@ MenuTexts::~MenuTexts() = default;
 QAction* MenuTexts::addAction(const char* source)
 {
     QAction* action = d->menu.addAction(QCoreApplication::translate(d->context, source));
-    d->texts.emplace_back(action, source);
+    d->texts.push_back({action, d->context, source});
     return action;
 }
 
@@ -45,6 +50,6 @@ bool MenuTexts::eventFilter(QObject* watched, QEvent* event)
 
 void MenuTexts::retranslate()
 {
-    for (const auto& [action, source] : d->texts)
-        action->setText(QCoreApplication::translate(d->context, source));
+    for (const auto& text : d->texts)
+        text.action->setText(QCoreApplication::translate(text.context, text.source));
 }

@@ -13,8 +13,10 @@ class QMenu;
 class MenuTexts : public QObject
 {
 public:
-    /// @p context is the translation context of every text given afterwards; it must outlive
-    /// the menu, as a string literal does.
+    /// @p context is the translation context of every entry given afterwards, one context per
+    /// menu; the title is in the context "MenuBar", with the other titles of the bar. So a context
+    /// holds exactly the texts whose mnemonics must differ. It must outlive the menu, as a string
+    /// literal does.
     MenuTexts(QMenu& menu, const char* context, const char* title);
     ~MenuTexts() override;
 

@@ -14,8 +14,10 @@
 #include "App/Application/NagScreen/WebNagUrlGenerator.h"
 #include "Core/ProductSettingsManager.h"
 #include "Foundation/Utf8.h"
+#include "Interfaces/IGateway.h"
 #include "Interfaces/IHttpClient.h"
 #include "Interfaces/IInternetConnectionChecker.h"
+#include "Interfaces/ILaunchTypeProcessor.h"
 #include "Interfaces/ILinksManager.h"
 #include "Interfaces/ILookAndFeelManager.h"
 #include "Interfaces/IMailSettingsManager.h"
@@ -38,6 +40,9 @@ using namespace Ostrel;
 using namespace Ostrel::App;
 
 namespace {
+
+// The version whose first start showed the welcome nag, in the product settings.
+const char* const WelcomedVersionKey = "WelcomedVersion";
 
 // Long enough for a primary started a moment earlier to come to listening.
 constexpr int DefaultHandOffTimeoutMs = 5000;
@@ -116,6 +121,7 @@ public:
     std::shared_ptr<NagScreen::INagLinksOpener> linksOpener;
     bool actionsWired = false;
     QPointer<NagScreen::NagScreenTestForm> tester;
+    std::shared_ptr<ProductSettingsManager> settings;
 
     ~Impl() override { application->GetLinksManagerSetter()->UnregisterEventHandler(this); }
 
@@ -171,6 +177,7 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
     : d(std::make_unique<Impl>())
 {
     d->application = &application;
+    d->settings = settings;
     const auto nagsSettings = std::make_shared<HostNagsSettings>(parser.value(dimmingOption()));
     d->manager = std::make_shared<NagScreen::NagManager>(settings);
     d->manager->SetNagsSettings(nagsSettings);
@@ -210,22 +217,45 @@ NagWiring::NagWiring(Application& application, const QCommandLineParser& parser,
 
 NagWiring::~NagWiring() = default;
 
-void NagWiring::showAfterStart()
+void NagWiring::showAfterStart(const std::shared_ptr<ExternalStimulus::IGateway>& questions)
 {
-    // After the main window has painted, so that the nag has something to sit on.
-    QTimer::singleShot(d->startNagDelayMs, d->application, [this]() {
-        // A request on this instance's own command line takes the same road as one from another.
-        if (!d->openNagAtStart.isEmpty())
-            Q_EMIT d->protocol->OnOpenNagReceived(d->openNagAtStart);
-        else if (d->startNag)
-            d->manager->ShowNag(NagScreen::AppAction::AppStart());
+    // After the main window has painted, so that the nag has something to sit on; and through the
+    // gateway of the questions, so that it never covers one (the usage statistics question opens
+    // right after the start).
+    QTimer::singleShot(d->startNagDelayMs, d->application, [this, questions]() {
+        const auto show = [this]() {
+            // A request on this instance's own command line takes the same road as one from another.
+            if (!d->openNagAtStart.isEmpty())
+                Q_EMIT d->protocol->OnOpenNagReceived(d->openNagAtStart);
+            else if (d->startNag && welcomeDue())
+                d->manager->ShowNag(NagScreen::AppAction::AppStart());
+        };
+        if (questions)
+            questions->post({"StartNag", show});
+        else
+            show();
     });
+}
+
+bool NagWiring::welcomeDue() const
+{
+    // The welcome greets the first start of each installed version: after an installation or an
+    // update, or, without an installer, the first start of a version this user has not run yet.
+    // "Don't show again" is the nag manager's to keep.
+    const auto launchType = d->application->GetLaunchTypeProcessor();
+    const int type = launchType ? launchType->GetLaunchType() : ILaunchTypeProcessor::Regular;
+    const std::string version = Util::QStringToUtf8(QCoreApplication::applicationVersion());
+    const bool newVersion = d->settings->GetString(WelcomedVersionKey, std::string()) != version;
+    d->settings->SetString(WelcomedVersionKey, version);
+    return newVersion || type == ILaunchTypeProcessor::FirstAfterInstall ||
+           type == ILaunchTypeProcessor::FirstAfterUpdate;
 }
 
 void NagWiring::addMenu(QMenuBar& menuBar)
 {
     QMenu* tools = menuBar.addMenu(QString());
-    auto* texts = new MenuTexts(*tools, "ToolsMenu", QT_TRANSLATE_NOOP("ToolsMenu", "&Tools"));
+    auto* texts = new MenuTexts(*tools, "ToolsMenu", QT_TRANSLATE_NOOP("MenuBar", "Tool&s"));
+    tools->setObjectName(QStringLiteral("toolsMenu"));
     QAction* tester = texts->addAction(QT_TRANSLATE_NOOP("ToolsMenu", "Nag Screen &Tester..."));
     tester->setObjectName(QStringLiteral("nagTester_action"));
     QObject::connect(tester, &QAction::triggered, &menuBar, [this, &menuBar]() {

@@ -7,6 +7,10 @@
 class QCommandLineParser;
 class QMenuBar;
 
+namespace Ostrel::ExternalStimulus {
+class IGateway;
+}
+
 namespace Ostrel::App {
 class Application;
 class CustomizationManager;
@@ -36,12 +40,15 @@ public:
     NagWiring(const NagWiring&) = delete;
     NagWiring& operator=(const NagWiring&) = delete;
 
-    /// Call once the main window is up.
-    void showAfterStart();
+    /// Call once the main window is up: the requested nag, or the welcome ("app_start") on the
+    /// first start of a version, once no question of @p questions (may be null) is open.
+    void showAfterStart(const std::shared_ptr<Ostrel::ExternalStimulus::IGateway>& questions);
     /// A "Tools" menu with the nag tester.
     void addMenu(QMenuBar& menuBar);
 
 private:
+    bool welcomeDue() const;
+
     class Impl;
     std::unique_ptr<Impl> d;
 };

@@ -1,6 +1,7 @@
 // The sample host: how a product wires the shell. It follows the start sequence step by step;
 // each step says what a product would put there.
 
+#include "BrowserMenu.h"
 #include "ExtensionsWiring.h"
 #include "HostSplash.h"
 #include "LogFile.h"
@@ -28,6 +29,7 @@
 #include "Http/HttpClient.h"
 #include "Interfaces/LifetimeObserver.h"
 #include "Ipc/LocalSocketProtocol.h"
+#include "QtUtil/ApplicationVisibleVersion.h"
 #include "QtUtil/QtMessageRouting.h"
 #include "Tracking/ApplicationTrackerFactory.h"
 #include "Tracking/GeneralOstrelTracker.h"
@@ -39,6 +41,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QMenu>
 #include <QMessageBox>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
@@ -46,6 +49,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <cstring>
 #include <ctime>
 
 using namespace Ostrel;
@@ -110,6 +114,60 @@ QString startLogFile(const CustomizationManager& customization)
     return file;
 }
 
+struct HostOptions
+{
+    QCommandLineOption quitAfter{QStringLiteral("quit-after"),
+                                 QStringLiteral("Quit by itself MS milliseconds after the start."),
+                                 QStringLiteral("MS")};
+    QCommandLineOption holdStart{QStringLiteral("hold-start"),
+                                 QStringLiteral("Wait MS milliseconds before the start, as a slow start-up "
+                                                "would; the splash stays up meanwhile."),
+                                 QStringLiteral("MS")};
+};
+
+HostOptions addHostOptions(QCommandLineParser& parser)
+{
+    HostOptions options;
+    parser.setApplicationDescription(QStringLiteral("Sample host of the Ostrel application shell"));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption(options.quitAfter);
+    parser.addOption(options.holdStart);
+    NagWiring::addOptions(parser);
+    return options;
+}
+
+// With --help or --version the host prints and ends (status 0) on a core application alone, so
+// that it answers on a machine without a display; -1 when neither is asked for.
+int answerWithoutDisplay(int argc, char** argv)
+{
+    const auto asked = [&](const char* name) {
+        for (int i = 1; i < argc; ++i) {
+            if (std::strcmp(argv[i], name) == 0)
+                return true;
+        }
+        return false;
+    };
+    const bool help = asked("--help") || asked("-h") || asked("-?");
+    const bool version = asked("--version") || asked("-v");
+    if (!help && !version)
+        return -1;
+    QCoreApplication core(argc, argv);
+    FLAGS_minloglevel = google::GLOG_WARNING; // the customization's banner is no answer
+    const CustomizationManager customization(QString(), QStringLiteral(":/host/CaptureDeskCustom.ini"));
+    QCoreApplication::setApplicationName(Util::Utf8ToQString(customization.GetApplicationName()));
+    QCoreApplication::setApplicationVersion(
+        Util::GenerateApplicationVisibleVersion(customization.GetVersion()));
+    QCommandLineParser parser;
+    addHostOptions(parser);
+    if (help)
+        std::fputs(qPrintable(parser.helpText()), stdout);
+    else
+        std::printf("%s %s\n", qPrintable(QCoreApplication::applicationName()),
+                    qPrintable(QCoreApplication::applicationVersion()));
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -131,6 +189,10 @@ int main(int argc, char** argv)
         stageCpu = cpu;
     };
 
+    // --help and --version answer before anything needs a display.
+    if (const int status = answerWithoutDisplay(argc, argv); status >= 0)
+        return status;
+
     // 1. Before any Qt object: the DPI policy.
     HighDpiFix();
 
@@ -149,25 +211,11 @@ int main(int argc, char** argv)
     stage("application");
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Sample host of the Ostrel application shell"));
-    parser.addHelpOption();
-    const QCommandLineOption quitAfter(QStringLiteral("quit-after"),
-                                       QStringLiteral("Quit by itself MS milliseconds after the start."),
-                                       QStringLiteral("MS"));
-    parser.addOption(quitAfter);
-    const QCommandLineOption holdStart(
-        QStringLiteral("hold-start"),
-        QStringLiteral("Wait MS milliseconds before the start, as a slow start-up "
-                       "would; the splash stays up meanwhile."),
-        QStringLiteral("MS"));
-    parser.addOption(holdStart);
-    NagWiring::addOptions(parser);
+    const HostOptions options = addHostOptions(parser);
     // The shell's own options (test options) are read by the shell; unknown ones are not an error here.
     parser.parse(QCoreApplication::arguments());
-    if (parser.isSet(QStringLiteral("help"))) {
-        std::fputs(qPrintable(parser.helpText()), stdout);
-        return 0;
-    }
+    const QCommandLineOption& quitAfter = options.quitAfter;
+    const QCommandLineOption& holdStart = options.holdStart;
     const auto milliseconds = [&](const QCommandLineOption& option, int* value) {
         if (!parser.isSet(option))
             return true;
@@ -235,6 +283,8 @@ int main(int argc, char** argv)
     // Links (the look and feel, for their locale, came with the window): they open in the preferred
     // browser through the URL handler that the browser installs for the process.
     PreferredBrowser preferredBrowser(app.GetLookAndFeel(), productSettings, installerSettings);
+    if (auto* optionsMenu = window.findChild<QMenu*>(QStringLiteral("optionsMenu")))
+        addBrowserMenu(*optionsMenu, preferredBrowser, productSettings);
     app.SetLinksManager(std::make_shared<LinksManager>(
         customization, app.get<IHardwareInfo>(), app.GetLookAndFeel(), app.GetMailSettingsManager(),
         productSettings, app.get<IUserSettingsManager>(), app.GetLaunchTypeProcessor(), nullptr,
@@ -268,7 +318,7 @@ int main(int argc, char** argv)
         stage("show");
         lifetime->start();
         stage("start callbacks");
-        nags.showAfterStart();
+        nags.showAfterStart(extensions.questions());
         startReturned = true;
         if (quitDue)
             QTimer::singleShot(0, &app, quitNow);

@@ -11,6 +11,7 @@ packages=(
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
   libboost-dev libgoogle-glog-dev libbenchmark-dev
   xvfb xauth imagemagick
+  openbox xdotool x11-utils  # scripts/uiwalk.sh: a window manager, the driver, xwininfo
   fonts-dejavu-core fonts-dejavu-extra
   fonts-noto-cjk  # Japanese, Korean, simplified and traditional Chinese: without it those locales draw boxes
   clang-14 libclang-rt-14-dev clang-format-14

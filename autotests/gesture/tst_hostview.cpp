@@ -19,14 +19,14 @@ private slots:
     {
         QWidget window;
         auto* layout = new QVBoxLayout(&window);
-        auto* panel = new LinksPanel({}, &window);
+        auto* panel = new LinksPanel({}, {}, &window);
         layout->addWidget(panel);
         new GestureWiring(&window);
         window.resize(320, 200);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QListWidgetItem* firstShown = panel->itemAt(4, 4);
-        QCOMPARE(firstShown, panel->item(0));
+        QTreeWidgetItem* firstShown = panel->itemAt(4, 4);
+        QCOMPARE(firstShown, panel->topLevelItem(0));
 
         QWidget* viewport = panel->viewport();
         QTouchDevice* screen = QTest::createTouchDevice();

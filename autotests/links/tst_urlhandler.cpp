@@ -91,6 +91,7 @@ private slots:
         Tracking::ApplicationTrackerFactory::setApplicationTracker(tracker);
         browserPath = QStringLiteral(BROWSER_STUB);
         asked = 0;
+        qunsetenv("BROWSER");
         browser = std::make_unique<PreferredBrowser>(nullptr, std::make_shared<NoBrowserSources>());
         browser->SetContextCallback([this]() {
             ++asked;
@@ -156,6 +157,32 @@ private slots:
         // The offscreen platform opens nothing by itself.
         QCOMPARE(report(2).at("STATUS"), std::string("FAIL"));
         QCOMPARE(report(2).at("NAVIGATE_URL"), std::string("https://example.org/two"));
+    }
+
+    // Without a preferred browser, $BROWSER as Python's webbrowser reads it, before the desktop's.
+    void browserVariable_data()
+    {
+        QTest::addColumn<QString>("variable");
+        QTest::addColumn<QStringList>("arguments");
+        const QString url = QStringLiteral("https://example.org/?a=1&b=%C3%A9");
+        QTest::newRow("a program") << QStringLiteral("STUB") << QStringList{url};
+        QTest::newRow("%s stands for the URL")
+            << QStringLiteral("STUB --new-window %s") << QStringList{QStringLiteral("--new-window"), url};
+        QTest::newRow("inside a word") << QStringLiteral("\"STUB\" --url=%s") << QStringList{"--url=" + url};
+        QTest::newRow("the first that exists")
+            << QStringLiteral(":/no/such/browser %s:STUB") << QStringList{url};
+    }
+
+    void browserVariable()
+    {
+        QFETCH(QString, variable);
+        QFETCH(QStringList, arguments);
+        browserPath.clear();
+        qputenv("BROWSER", variable.replace(QLatin1String("STUB"), QStringLiteral(BROWSER_STUB)).toUtf8());
+        open(QUrl(QStringLiteral("https://example.org/?a=1&b=%C3%A9")));
+        QCOMPARE(starts(1), (QList<QStringList>{arguments}));
+        QCOMPARE(report(1).at("DEFAULT_BROWSER"), std::string("NO"));
+        QCOMPARE(report(1).at("BROWSER_PATH"), std::string(BROWSER_STUB));
     }
 
     void browserThatFailsToStart()

@@ -240,18 +240,38 @@ private Q_SLOTS:
         QCOMPARE(dialogPos, expectedTopLeft(&m_window, QSize(500, 320)));
     }
 
-    void locateDialogTruncatesTowardZero()
+    // On the offscreen platform's 800 x 600 screen.
+    void locateDialog_data()
     {
+        QTest::addColumn<QRect>("window");
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QPoint>("topLeft");
+        QTest::newRow("centred on its window, halves truncated")
+            << QRect(100, 80, 400, 300) << QSize(301, 201) << QPoint(149, 129);
+        QTest::newRow("larger than its window: centred on the screen")
+            << QRect(0, 0, 200, 150) << QSize(400, 300) << QPoint(199, 149);
+        QTest::newRow("a window partly off the screen: the nag stays on it")
+            << QRect(700, 500, 200, 150) << QSize(100, 100) << QPoint(700, 500);
+        QTest::newRow("larger than the screen: its top-left corner on the screen")
+            << QRect(0, 0, 200, 150) << QSize(1000, 700) << QPoint(0, 0);
+    }
+
+    void locateDialog()
+    {
+        QFETCH(QRect, window);
+        QFETCH(QSize, size);
+        QFETCH(QPoint, topLeft);
         OpenDialogStrategy strategy(m_settings);
-        QDialog dialog(&m_window);
-        strategy.LocateDialog(&dialog, QSize(301, 201));
-        const QPoint center = m_window.mapToGlobal(m_window.rect().center());
-        QCOMPARE(dialog.pos(), QPoint(center.x() - 150, center.y() - 100));
+        QWidget parent;
+        parent.setGeometry(window);
+        QDialog dialog(&parent);
+        strategy.LocateDialog(&dialog, size);
+        QCOMPARE(dialog.pos(), topLeft);
         QDialog orphan;
         orphan.move(7, 9);
-        strategy.LocateDialog(&orphan, QSize(300, 200));
+        strategy.LocateDialog(&orphan, size);
         QCOMPARE(orphan.pos(), QPoint(7, 9));
-        strategy.LocateDialog(nullptr, QSize(300, 200)); // no crash
+        strategy.LocateDialog(nullptr, size); // no crash
     }
 
     void eachDimmerCoversTheParentWhileShownAndLeavesAfter_data()

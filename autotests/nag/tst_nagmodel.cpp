@@ -652,6 +652,34 @@ private Q_SLOTS:
         QVERIFY(body && buttons);
         QVERIFY2(body->y() + body->height() < buttons->y(), qPrintable(QString::number(buttons->y())));
 
+        // A link draws in the nag's own colour, never in the palette's blue.
+        const QImage picture = content.Picture().toImage();
+        for (QQuickItem* text : textItems(root)) {
+            if (!text->property("text").toString().contains(QLatin1String("<a ")))
+                continue;
+            const QColor link = text->property("linkColor").value<QColor>();
+            const qreal scale = content.GetUi()->devicePixelRatioF(); // the picture is in device pixels
+            const QRectF item = text->mapRectToItem(root, QRectF(0, 0, text->width(), text->height()));
+            const QRect area = QRectF(item.topLeft() * scale, item.size() * scale)
+                                   .toAlignedRect()
+                                   .intersected(picture.rect());
+            int inLinkColour = 0;
+            int blue = 0;
+            for (int y = area.top(); y <= area.bottom(); ++y) {
+                for (int x = area.left(); x <= area.right(); ++x) {
+                    const QColor pixel = picture.pixelColor(x, y);
+                    inLinkColour += qAbs(pixel.red() - link.red()) + qAbs(pixel.green() - link.green()) +
+                                        qAbs(pixel.blue() - link.blue()) <
+                                    60;
+                    blue += pixel.blue() > 200 && pixel.red() < 60 && pixel.green() < 60;
+                }
+            }
+            QVERIFY2(
+                inLinkColour > 20 && blue == 0,
+                qPrintable(
+                    QStringLiteral("%1 pixels in %2, %3 blue").arg(inLinkColour).arg(link.name()).arg(blue)));
+        }
+
         QCOMPARE(content.Picture().size(),
                  QSize(850, 472) * content.GetUi()->devicePixelRatioF()); // device pixels
         QCOMPARE(content.HashSize(), QSize(16, 8));

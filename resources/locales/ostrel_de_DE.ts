@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
+        <source>&amp;Restart</source>
+        <translation>&amp;Neu starten</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>&amp;Hilfe-Center</translation>
@@ -31,14 +38,6 @@
         <translation>&amp;Support kontaktieren</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>C&amp;ommunity-Forum</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>&amp;Homepage</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Datenschutzerklärung</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>Links</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtern</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>C&amp;ommunity-Forum</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>Ho&amp;mepage</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;Über...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>&amp;Sprache</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Design</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Optionen</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>Eigene Farben...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>Gespeicherte Antworten zurücksetzen</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>Die gespeicherten Antworten wurden zurückgesetzt.</translation>
@@ -116,20 +122,81 @@
         <translation>Marke:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>Desig&amp;n</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Optionen</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>&amp;Neu starten</translation>
+        <source>Tool&amp;s</source>
+        <translation>E&amp;xtras</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>&amp;Browser</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
+        <source>Desktop default</source>
+        <translation>Standard des Desktops</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Bereit</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>&amp;Eigene Farben...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>&amp;Gespeicherte Antworten zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>Alle Rechte vorbehalten.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Homepage</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -310,10 +377,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>E&amp;xtras</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>Nag-Screen-&amp;Tester...</translation>

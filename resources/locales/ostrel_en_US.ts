@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Help</translation>
+        <source>&amp;Restart</source>
+        <translation>&amp;Restart</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quit</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>&amp;Help Center</translation>
@@ -31,14 +38,6 @@
         <translation>&amp;Contact Support</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>Community &amp;Forum</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>&amp;Home Page</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Privacy Policy</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>Links</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>Community F&amp;orum</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>Ho&amp;me Page</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;About...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Address</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>&amp;Language</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Theme</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Options</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>Custom colours...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>Reset remembered answers</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>Remembered answers were reset.</translation>
@@ -116,20 +122,81 @@
         <translation>Brand:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>Ready</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Language</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Theme</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Options</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;File</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>&amp;Restart</translation>
+        <source>Tool&amp;s</source>
+        <translation>Tool&amp;s</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>&amp;Browser</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quit</translation>
+        <source>Desktop default</source>
+        <translation>Desktop default</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Ready</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>Custom &amp;Colours...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>&amp;Reset Remembered Answers</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>About %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>All rights reserved.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Home page</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
     </message>
 </context>
 <context>
@@ -310,10 +377,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>&amp;Tools</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>Nag Screen &amp;Tester...</translation>

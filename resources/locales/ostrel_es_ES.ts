@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>Ay&amp;uda</translation>
+        <source>&amp;Restart</source>
+        <translation>&amp;Reiniciar</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>&amp;Centro de ayuda</translation>
@@ -31,14 +38,6 @@
         <translation>C&amp;ontactar con soporte</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>&amp;Foro de la comunidad</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>Página &amp;web</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>Política de pri&amp;vacidad</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>Enlaces</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>&amp;Foro de la comunidad</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>Página &amp;web</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;Acerca de...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>&amp;Idioma</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Tema</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opciones</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>Colores personalizados...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>Restablecer respuestas recordadas</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>Se restablecieron las respuestas recordadas.</translation>
@@ -116,20 +122,81 @@
         <translation>Marca:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>Listo</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ay&amp;uda</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Tema</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opciones</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Archivo</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>&amp;Reiniciar</translation>
+        <source>Tool&amp;s</source>
+        <translation>&amp;Herramientas</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>&amp;Navegador</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Salir</translation>
+        <source>Desktop default</source>
+        <translation>Predeterminado del escritorio</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Listo</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>&amp;Colores personalizados...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>&amp;Restablecer respuestas recordadas</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>Acerca de %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versión %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>Todos los derechos reservados.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Página de inicio</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
@@ -310,10 +377,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>&amp;Herramientas</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>&amp;Probador de nags...</translation>

@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Aide</translation>
+        <source>&amp;Restart</source>
+        <translation>&amp;Redémarrer</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>&amp;Centre d&apos;aide</translation>
@@ -31,14 +38,6 @@
         <translation>C&amp;ontacter le support</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>&amp;Forum de la communauté</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>Page d&apos;&amp;accueil</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Politique de confidentialité</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>Liens</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrer</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>&amp;Forum de la communauté</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>Page d&apos;&amp;accueil</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;À propos...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>&amp;Langue</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Thème</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Options</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>Couleurs personnalisées...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>Réinitialiser les réponses mémorisées</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>Les réponses mémorisées ont été réinitialisées.</translation>
@@ -116,20 +122,81 @@
         <translation>Marque&#xa0;:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>Prêt</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Langue</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Thème</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Options</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Fichier</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>&amp;Redémarrer</translation>
+        <source>Tool&amp;s</source>
+        <translation>O&amp;utils</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>&amp;Navigateur</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
+        <source>Desktop default</source>
+        <translation>Par défaut du bureau</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Prêt</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>&amp;Couleurs personnalisées...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>&amp;Réinitialiser les réponses mémorisées</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>À propos de %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>Tous droits réservés.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Page d’accueil</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
@@ -310,10 +377,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>O&amp;utils</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>&amp;Testeur de nags...</translation>

@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Aiuto</translation>
+        <source>&amp;Restart</source>
+        <translation>&amp;Riavvia</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>&amp;Centro assistenza</translation>
@@ -31,14 +38,6 @@
         <translation>C&amp;ontatta l&apos;assistenza</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>&amp;Forum della community</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>Sito &amp;web</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Informativa sulla privacy</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>Link</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtra</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>&amp;Forum della community</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>Sito &amp;web</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>I&amp;nformazioni...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Indirizzo</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>&amp;Lingua</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Tema</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opzioni</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>Colori personalizzati...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>Reimposta le risposte memorizzate</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>Le risposte memorizzate sono state reimpostate.</translation>
@@ -116,20 +122,81 @@
         <translation>Marchio:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>Pronto</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aiuto</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Lingua</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Tema</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opzioni</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;File</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>&amp;Riavvia</translation>
+        <source>Tool&amp;s</source>
+        <translation>St&amp;rumenti</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>&amp;Browser</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Esci</translation>
+        <source>Desktop default</source>
+        <translation>Predefinito del desktop</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Pronto</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>&amp;Colori personalizzati...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>&amp;Reimposta le risposte memorizzate</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>Informazioni su %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versione %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>Tutti i diritti riservati.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Home page</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
@@ -310,10 +377,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>St&amp;rumenti</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>&amp;Tester dei nag...</translation>

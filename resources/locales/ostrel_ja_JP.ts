@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>ヘルプ(&amp;H)</translation>
+        <source>&amp;Restart</source>
+        <translation>再起動(&amp;R)</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>ヘルプ センター(&amp;H)</translation>
@@ -31,14 +38,6 @@
         <translation>サポートに問い合わせる(&amp;C)</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>コミュニティ フォーラム(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>ホームページ(&amp;H)</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>プライバシー ポリシー(&amp;P)</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>リンク</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>フィルター</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>コミュニティ フォーラム(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>ホームページ(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>バージョン情報(&amp;A)...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>言語(&amp;L)</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>テーマ(&amp;T)</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>オプション(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>カスタム カラー...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>記憶した回答をリセット</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>記憶した回答をリセットしました。</translation>
@@ -116,20 +122,81 @@
         <translation>ブランド：</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>言語(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>テーマ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>オプション(&amp;O)</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>再起動(&amp;R)</translation>
+        <source>Tool&amp;s</source>
+        <translation>ツール(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>ブラウザー(&amp;B)</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>終了(&amp;Q)</translation>
+        <source>Desktop default</source>
+        <translation>デスクトップの既定</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>準備完了</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>カスタム カラー(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>記憶した回答をリセット(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>%1 について</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>バージョン %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>無断複写・転載を禁じます。</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>ホームページ</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
@@ -308,10 +375,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>ツール(&amp;T)</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>Nag 画面テスター(&amp;T)...</translation>

@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>도움말(&amp;H)</translation>
+        <source>&amp;Restart</source>
+        <translation>다시 시작(&amp;R)</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>끝내기(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>도움말 센터(&amp;H)</translation>
@@ -31,14 +38,6 @@
         <translation>지원팀에 문의(&amp;C)</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>커뮤니티 포럼(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>홈페이지(&amp;H)</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>개인정보 처리방침(&amp;P)</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>링크</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>필터</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>커뮤니티 포럼(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>홈페이지(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>정보(&amp;A)...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>주소</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>언어(&amp;L)</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>테마(&amp;T)</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>옵션(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>사용자 지정 색...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>저장된 응답 초기화</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>저장된 응답을 초기화했습니다.</translation>
@@ -116,20 +122,81 @@
         <translation>브랜드:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>준비</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>도움말(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>언어(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>테마(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>옵션(&amp;O)</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>파일(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>다시 시작(&amp;R)</translation>
+        <source>Tool&amp;s</source>
+        <translation>도구(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>브라우저(&amp;B)</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>끝내기(&amp;Q)</translation>
+        <source>Desktop default</source>
+        <translation>데스크톱 기본값</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>준비</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>사용자 지정 색(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>저장된 응답 초기화(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>%1 정보</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>버전 %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>모든 권리 보유.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>홈페이지</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
     </message>
 </context>
 <context>
@@ -308,10 +375,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>도구(&amp;T)</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>Nag 화면 테스터(&amp;T)...</translation>

@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Help</translation>
+        <source>&amp;Restart</source>
+        <translation>Opnieuw &amp;starten</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Afsluiten</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>&amp;Helpcentrum</translation>
@@ -31,14 +38,6 @@
         <translation>&amp;Contact met support</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>Community&amp;forum</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>&amp;Startpagina</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Privacybeleid</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>Links</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filteren</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>Community&amp;forum</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>&amp;Startpagina</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;Over...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>&amp;Taal</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>T&amp;hema</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opties</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>Eigen kleuren...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>Onthouden antwoorden wissen</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>Onthouden antwoorden zijn gewist.</translation>
@@ -116,20 +122,81 @@
         <translation>Merk:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>Gereed</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Taal</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>Th&amp;ema</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opties</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Bestand</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>Opnieuw &amp;starten</translation>
+        <source>Tool&amp;s</source>
+        <translation>E&amp;xtra</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>&amp;Browser</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Afsluiten</translation>
+        <source>Desktop default</source>
+        <translation>Standaard van het bureaublad</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Gereed</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>&amp;Eigen kleuren...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>&amp;Onthouden antwoorden wissen</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>Over %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versie %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>Alle rechten voorbehouden.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Startpagina</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
     </message>
 </context>
 <context>
@@ -310,10 +377,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>E&amp;xtra</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>Nag-scherm&amp;tester...</translation>

@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>Pomo&amp;c</translation>
+        <source>&amp;Restart</source>
+        <translation>&amp;Uruchom ponownie</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Za&amp;kończ</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>&amp;Centrum pomocy</translation>
@@ -31,14 +38,6 @@
         <translation>&amp;Kontakt z pomocą techniczną</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>&amp;Forum społeczności</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>&amp;Strona główna</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>Polityka p&amp;rywatności</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>Linki</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtruj</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>&amp;Forum społeczności</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>&amp;Strona główna</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;O programie...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>&amp;Język</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Motyw</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opcje</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>Kolory niestandardowe...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>Resetuj zapamiętane odpowiedzi</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>Zapamiętane odpowiedzi zostały zresetowane.</translation>
@@ -116,20 +122,81 @@
         <translation>Marka:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>Gotowe</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Pomo&amp;c</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Język</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Motyw</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opcje</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Plik</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>&amp;Uruchom ponownie</translation>
+        <source>Tool&amp;s</source>
+        <translation>&amp;Narzędzia</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>Prze&amp;glądarka</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>Za&amp;kończ</translation>
+        <source>Desktop default</source>
+        <translation>Domyślna pulpitu</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Gotowe</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>&amp;Kolory niestandardowe...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>&amp;Resetuj zapamiętane odpowiedzi</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>O programie %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Wersja %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>Wszelkie prawa zastrzeżone.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Strona główna</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
     </message>
 </context>
 <context>
@@ -312,10 +379,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>&amp;Narzędzia</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>&amp;Tester okien nag...</translation>

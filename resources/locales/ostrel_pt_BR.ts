@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>Aj&amp;uda</translation>
+        <source>&amp;Restart</source>
+        <translation>&amp;Reiniciar</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>&amp;Central de ajuda</translation>
@@ -31,14 +38,6 @@
         <translation>&amp;Fale com o suporte</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>F&amp;órum da comunidade</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>Página &amp;inicial</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>Política de p&amp;rivacidade</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>Links</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>F&amp;órum da comunidade</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>Página &amp;inicial</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;Sobre...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Endereço</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>&amp;Idioma</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Tema</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opções</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>Cores personalizadas...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>Redefinir respostas lembradas</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>As respostas lembradas foram redefinidas.</translation>
@@ -116,20 +122,81 @@
         <translation>Marca:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>Pronto</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aj&amp;uda</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Tema</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opções</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Arquivo</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>&amp;Reiniciar</translation>
+        <source>Tool&amp;s</source>
+        <translation>&amp;Ferramentas</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>&amp;Navegador</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Sair</translation>
+        <source>Desktop default</source>
+        <translation>Padrão da área de trabalho</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Pronto</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>&amp;Cores personalizadas...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>&amp;Redefinir respostas lembradas</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>Sobre o %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versão %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>Todos os direitos reservados.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Página inicial</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
     </message>
 </context>
 <context>
@@ -310,10 +377,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>&amp;Ferramentas</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>&amp;Testador de nags...</translation>

@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Справка</translation>
+        <source>&amp;Restart</source>
+        <translation>&amp;Перезапустить</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Выход</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>&amp;Справочный центр</translation>
@@ -31,24 +38,32 @@
         <translation>Связаться с &amp;поддержкой</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>&amp;Форум сообщества</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>&amp;Домашняя страница</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>П&amp;олитика конфиденциальности</translation>
     </message>
     <message>
         <source>All &amp;Links...</source>
-        <translation>Все &amp;ссылки...</translation>
+        <translation>&amp;Все ссылки...</translation>
     </message>
     <message>
         <source>Links</source>
         <translation>Ссылки</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Фильтр</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>&amp;Форум сообщества</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>&amp;Домашняя страница</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>О п&amp;рограмме...</translation>
     </message>
 </context>
 <context>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Адрес</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>&amp;Язык</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Тема</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Параметры</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>Свои цвета...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>Сбросить запомненные ответы</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>Запомненные ответы сброшены.</translation>
@@ -116,20 +122,81 @@
         <translation>Бренд:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>Готово</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Язык</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Тема</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Параметры</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Файл</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>&amp;Перезапустить</translation>
+        <source>Tool&amp;s</source>
+        <translation>С&amp;ервис</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>&amp;Браузер</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Выход</translation>
+        <source>Desktop default</source>
+        <translation>По умолчанию в системе</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Готово</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>&amp;Свои цвета...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>Сб&amp;росить запомненные ответы</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>О программе %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Версия %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>Все права защищены.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Домашняя страница</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
     </message>
 </context>
 <context>
@@ -312,10 +379,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>С&amp;ервис</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>&amp;Тестер nag-окон...</translation>

@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Yardım</translation>
+        <source>&amp;Restart</source>
+        <translation>&amp;Yeniden Başlat</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Çı&amp;kış</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>&amp;Yardım Merkezi</translation>
@@ -31,14 +38,6 @@
         <translation>&amp;Destek ile İletişim</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>&amp;Topluluk Forumu</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>&amp;Ana Sayfa</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>&amp;Gizlilik Politikası</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>Bağlantılar</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrele</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>&amp;Topluluk Forumu</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>&amp;Ana Sayfa</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;Hakkında...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>D&amp;il</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Tema</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Seçenekler</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>Özel renkler...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>Hatırlanan yanıtları sıfırla</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>Hatırlanan yanıtlar sıfırlandı.</translation>
@@ -116,20 +122,81 @@
         <translation>Marka:</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>Hazır</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Yardım</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>D&amp;il</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Tema</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Seçenekler</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Dosya</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>&amp;Yeniden Başlat</translation>
+        <source>Tool&amp;s</source>
+        <translation>&amp;Araçlar</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>&amp;Tarayıcı</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>Çı&amp;kış</translation>
+        <source>Desktop default</source>
+        <translation>Masaüstü varsayılanı</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Hazır</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>&amp;Özel renkler...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>&amp;Hatırlanan yanıtları sıfırla</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>%1 hakkında</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Sürüm %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>Tüm hakları saklıdır.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Ana sayfa</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
     </message>
 </context>
 <context>
@@ -308,10 +375,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>&amp;Araçlar</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>Nag ekranı &amp;test aracı...</translation>

@@ -13,11 +13,18 @@
     </message>
 </context>
 <context>
-    <name>HelpMenu</name>
+    <name>FileMenu</name>
     <message>
-        <source>&amp;Help</source>
-        <translation>帮助(&amp;H)</translation>
+        <source>&amp;Restart</source>
+        <translation>重新启动(&amp;R)</translation>
     </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
     <message>
         <source>&amp;Help Center</source>
         <translation>帮助中心(&amp;H)</translation>
@@ -31,14 +38,6 @@
         <translation>联系技术支持(&amp;C)</translation>
     </message>
     <message>
-        <source>Community &amp;Forum</source>
-        <translation>社区论坛(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;Home Page</source>
-        <translation>主页(&amp;H)</translation>
-    </message>
-    <message>
         <source>&amp;Privacy Policy</source>
         <translation>隐私政策(&amp;P)</translation>
     </message>
@@ -50,6 +49,22 @@
         <source>Links</source>
         <translation>链接</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Community F&amp;orum</source>
+        <translation>社区论坛(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Ho&amp;me Page</source>
+        <translation>主页(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>关于(&amp;A)...</translation>
+    </message>
 </context>
 <context>
     <name>HostSplash</name>
@@ -59,27 +74,18 @@
     </message>
 </context>
 <context>
+    <name>LinksPanel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+</context>
+<context>
     <name>LookAndFeelWiring</name>
-    <message>
-        <source>&amp;Language</source>
-        <translation>语言(&amp;L)</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>主题(&amp;T)</translation>
-    </message>
-    <message>
-        <source>&amp;Options</source>
-        <translation>选项(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Custom colours...</source>
-        <translation>自定义颜色...</translation>
-    </message>
-    <message>
-        <source>Reset remembered answers</source>
-        <translation>重置已记住的回答</translation>
-    </message>
     <message>
         <source>Remembered answers were reset.</source>
         <translation>已重置记住的回答。</translation>
@@ -116,20 +122,81 @@
         <translation>品牌：</translation>
     </message>
     <message>
+        <source>Ready</source>
+        <translation>就绪</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>主题(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>选项(&amp;O)</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>文件(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Restart</source>
-        <translation>重新启动(&amp;R)</translation>
+        <source>Tool&amp;s</source>
+        <translation>工具(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsMenu</name>
+    <message>
+        <source>&amp;Browser</source>
+        <translation>浏览器(&amp;B)</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>退出(&amp;Q)</translation>
+        <source>Desktop default</source>
+        <translation>桌面默认</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>就绪</translation>
+        <source>Custom &amp;Colours...</source>
+        <translation>自定义颜色(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Remembered Answers</source>
+        <translation>重置已记住的回答(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>Ostrel::App::AboutBoxDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>关于 %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message>
+        <source>Copyright © %1 %2</source>
+        <translation>Copyright © %1 %2</translation>
+    </message>
+    <message>
+        <source>All rights reserved.</source>
+        <translation>保留所有权利。</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>主页</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -308,10 +375,6 @@
 </context>
 <context>
     <name>ToolsMenu</name>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>工具(&amp;T)</translation>
-    </message>
     <message>
         <source>Nag Screen &amp;Tester...</source>
         <translation>Nag 窗口测试器(&amp;T)...</translation>

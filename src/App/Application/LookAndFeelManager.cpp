@@ -22,6 +22,7 @@
 #include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QPixmapCache>
 #include <QResource>
@@ -193,6 +194,24 @@ public:
         QPixmapCache::clear();
     }
 
+    // Qt's translation of its own texts for the current locale: "qtbase_<locale>.qm" in the
+    // locale's folder, else the most specific one in Qt's translations folder; empty for none.
+    QString qtTranslationFile(const QDir& localeDir) const
+    {
+        const QString name =
+            QStringLiteral("qtbase_") + Utf8ToQString(m_currentLocale) + QStringLiteral(".qm");
+        if (localeDir.exists(name))
+            return localeDir.absoluteFilePath(name);
+        const QString qtDir = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+        const QString locale = Utf8ToQString(m_currentLocale);
+        for (const QString& candidate : {locale, locale.section(QLatin1Char('_'), 0, 0)}) {
+            const QFileInfo file(qtDir + QStringLiteral("/qtbase_") + candidate + QStringLiteral(".qm"));
+            if (!candidate.isEmpty() && file.isFile())
+                return file.absoluteFilePath();
+        }
+        return QString();
+    }
+
     // The current locale's translation files, as absolute paths of files.
     const QStringList& translationFiles()
     {
@@ -211,9 +230,18 @@ public:
             }
         }
         QStringList files;
+        bool qtOwn = false;
         for (const QFileInfo& entry : std::as_const(entries)) {
             if (entry.isFile())
                 files.append(entry.absoluteFilePath());
+            qtOwn = qtOwn || entry.fileName().startsWith(QLatin1String("qtbase_"));
+        }
+        // Qt's own texts (its dialogs and standard buttons) come with every locale, whatever
+        // names the product lists: the tree's copy, else Qt's installed translations.
+        if (!qtOwn) {
+            const QString qtFile = qtTranslationFile(dir);
+            if (!qtFile.isEmpty())
+                files.append(qtFile);
         }
         return m_translationFiles[m_currentLocale] = files;
     }

@@ -1,5 +1,6 @@
 #include "App/Application/URLHandler.h"
 
+#include "App/Application/BrowserVariable.h"
 #include "App/Application/PreferredBrowser.h"
 #include "Foundation/PersonalDataMask.h"
 #include "Foundation/Utf8.h"
@@ -35,21 +36,29 @@ URLHandler::~URLHandler()
 void URLHandler::OpenURLWithPreferredBrowser(const QUrl& url)
 {
     // Inside a URL handler Qt hands openUrl to the system, so the fallbacks don't come back here.
+    // A browser chosen meanwhile (Name() does not search) counts again.
     QString path;
-    if (!m_useSystemBrowser)
+    if (!m_useSystemBrowser || !m_browser.Name().isEmpty())
         path = m_browser.Path();
 
     bool opened = false;
     bool systemDefault = true;
-    if (path.isEmpty()) {
-        m_useSystemBrowser = true;
-        opened = QDesktopServices::openUrl(url);
-    } else if (QProcess::startDetached(path, {url.toString()})) {
+    if (!path.isEmpty() && QProcess::startDetached(path, {url.toString()})) {
         opened = true;
         systemDefault = false;
     } else {
-        // A browser that failed to start may start next time: the flag stays as it is.
-        opened = QDesktopServices::openUrl(url);
+        // A browser that failed to start may start next time: the flag stays as it is. Without
+        // one, the browsers the person named in $BROWSER come before the desktop's default.
+        if (path.isEmpty())
+            m_useSystemBrowser = true;
+        const QString named = BrowserVariable::open(url);
+        if (!named.isEmpty()) {
+            path = named;
+            opened = true;
+            systemDefault = false;
+        } else {
+            opened = QDesktopServices::openUrl(url);
+        }
     }
 
     const auto tracker = Tracking::ApplicationTrackerFactory::getApplicationTracker();

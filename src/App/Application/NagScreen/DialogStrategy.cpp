@@ -20,7 +20,10 @@
 #include <QApplication>
 #include <QDialog>
 #include <QHBoxLayout>
+#include <QScreen>
+#include <QWindow>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Ostrel::App::NagScreen {
@@ -96,9 +99,20 @@ void DialogStrategy::LocateDialog(QDialog* dialog, const QSize& size) const
     if (!dialog || !dialog->parentWidget())
         return;
     const QWidget* parent = dialog->parentWidget();
-    const QPoint center = parent->mapToGlobal(parent->rect().center());
-    const int x = static_cast<int>(std::trunc(center.x() - std::trunc(size.width() * 0.5)));
-    const int y = static_cast<int>(std::trunc(center.y() - std::trunc(size.height() * 0.5)));
+    // A nag larger than its window would hang over the window's edges anyway: it is centred on
+    // the window's screen instead. Either way it stays on that screen, top-left first when it is
+    // larger than the screen.
+    const QScreen* screen = parent->screen();
+    const QRect area = screen ? screen->availableGeometry() : QRect();
+    const bool fits = size.width() <= parent->width() && size.height() <= parent->height();
+    const QPoint center =
+        fits || area.isEmpty() ? parent->mapToGlobal(parent->rect().center()) : area.center();
+    int x = static_cast<int>(std::trunc(center.x() - std::trunc(size.width() * 0.5)));
+    int y = static_cast<int>(std::trunc(center.y() - std::trunc(size.height() * 0.5)));
+    if (!area.isEmpty()) {
+        x = std::max(area.left(), std::min(x, area.left() + area.width() - size.width()));
+        y = std::max(area.top(), std::min(y, area.top() + area.height() - size.height()));
+    }
     dialog->move(x, y);
 }
 
@@ -150,6 +164,13 @@ int DialogStrategy::ShowNag(AbstractContent& content)
     };
     QObject::connect(&content, &AbstractContent::SizeChanged, &dialog, relocate);
     relocate();
+    // The window under the nag may still be placed by the window manager (a nag asked for at once
+    // after the window shows), or be moved while the nag is up: the nag follows it.
+    if (QWindow* window = parent ? parent->window()->windowHandle() : nullptr) {
+        for (const auto changed :
+             {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged})
+            QObject::connect(window, changed, &dialog, relocate);
+    }
 
     QString name = content.DimmingName();
     QMap<QString, QString> parameters = content.DimmingParameters();

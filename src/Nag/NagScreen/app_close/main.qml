@@ -158,7 +158,7 @@ Item {
             width: Math.min(implicitWidth, body.width - dontShowLabel.implicitWidth - 16)
             wrapMode: Text.WordWrap
             text: TU.getLocalizedText("<a href=\"#\">Compare editions</a>")
-            textFormat: Text.RichText
+            textFormat: Text.StyledText
             linkColor: "#c8457a"
             font { family: Style.fontArial; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
             onLinkActivated: root.openLink(root.compareUrl)

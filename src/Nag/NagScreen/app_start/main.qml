@@ -157,7 +157,7 @@ Item {
             width: Math.min(implicitWidth, body.width - dontShowLabel.implicitWidth - 16)
             wrapMode: Text.WordWrap
             text: TU.getLocalizedText("<a href=\"#\">See what's new in this version</a>")
-            textFormat: Text.RichText
+            textFormat: Text.StyledText
             linkColor: "#2f6fd6"
             font { family: Style.fontArial; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
             onLinkActivated: root.openLink(root.whatsNewUrl)

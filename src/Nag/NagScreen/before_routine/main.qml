@@ -143,7 +143,7 @@ Item {
             width: Math.min(implicitWidth, body.width - dontShowLabel.implicitWidth - 16)
             wrapMode: Text.WordWrap
             text: TU.getLocalizedText("<a href=\"#\">Why is there a watermark?</a>")
-            textFormat: Text.RichText
+            textFormat: Text.StyledText
             linkColor: "#0f7d6b"
             font { family: Style.fontArial; pixelSize: 13; hintingPreference: Font.PreferNoHinting }
             onLinkActivated: root.openLink(root.whyUrl)

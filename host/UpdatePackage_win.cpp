@@ -1,0 +1,6 @@
+#include "UpdatePackage.h"
+
+QString updatePackageUrl(const QString& tableUrl)
+{
+    return tableUrl;
+}
