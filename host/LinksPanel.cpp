@@ -82,9 +82,12 @@ QString LinksPanel::readableName(const std::string& keyName)
     if (place.startsWith(QLatin1Char('_')))
         place.remove(0, 1);
     // Abbreviations stay in capitals; other words are written as a sentence.
+    static const QStringList abbreviations{QStringLiteral("FAQ"), QStringLiteral("NPS"),
+                                           QStringLiteral("CW"),  QStringLiteral("VK"),
+                                           QStringLiteral("GPU"), QStringLiteral("OS")};
     QStringList words = name.split(QLatin1Char('_'), Qt::SkipEmptyParts);
     for (int i = 0; i < words.size(); ++i) {
-        if (words[i].size() <= 3)
+        if (abbreviations.contains(words[i]))
             continue;
         words[i] = words[i].toLower();
         if (i == 0)
