@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QUrl>
 #include <QtTest>
+#include <functional>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -149,8 +150,8 @@ private slots:
         Ostrel::Test::RecordingHttpServer server;
         const QString bin = outside.filePath(QStringLiteral("bin"));
         QVERIFY(QDir().mkpath(bin));
-        const QString host = bin + QStringLiteral("/ostrel-host");
-        QVERIFY(QFile::copy(QStringLiteral(OSTREL_HOST), host));
+        const QString hostCopy = bin + QStringLiteral("/ostrel-host");
+        QVERIFY(QFile::copy(QStringLiteral(OSTREL_HOST), hostCopy));
         QVERIFY(QFile::link(QFileInfo(QStringLiteral(OSTREL_HOST)).absolutePath() +
                                 QStringLiteral("/../resources"),
                             outside.filePath(QStringLiteral("resources"))));
@@ -196,29 +197,41 @@ private slots:
 
         const QMap<QString, QString> verbose{{QStringLiteral("GLOG_v"), QStringLiteral("1")}};
         QByteArray console;
-        {
-            QProcess first;
-            home.start(first,
-                       {QStringLiteral("--launch-type=1"), QStringLiteral("--no-start-nag"),
-                        QStringLiteral("--test-ssl-disable"), QStringLiteral("--test-dump-urls"),
-                        QStringLiteral("--test-custom-locales=en_US"),
-                        QStringLiteral("--open-nag=%1/nag/main.qml?email=%2&name=Zelda%20Quonk")
-                            .arg(server.base(), encodedAddress)},
-                       verbose, host);
-            const auto walked = [&]() {
-                const QByteArray tracking = readFile(home.trackingFile());
-                const QByteArray log = readFile(home.logFile());
-                return subscriptions == 2 && tracking.count("\"URL_OPEN\"") == 2 &&
-                       tracking.contains("\"NAG_CLOSE\"") && log.contains("Update check failed") &&
-                       log.contains("CollectEmail request failed") &&
-                       log.contains("Gateway holds \"EMAIL_DIALOG\"");
-            };
+        const auto run = [&](const QStringList& arguments, const std::function<bool()>& walked) {
+            QProcess host;
+            home.start(host, arguments, verbose, hostCopy);
             const bool done = QTest::qWaitFor(walked, 60000);
-            first.terminate();
-            first.waitForFinished(10000);
-            console += first.readAllStandardOutput() + first.readAllStandardError();
-            QVERIFY2(done, "the run did not walk every path");
-        }
+            host.terminate();
+            host.waitForFinished(10000);
+            console += host.readAllStandardOutput() + host.readAllStandardError();
+            return done;
+        };
+        // The first launch: the thank-you page, the update check and the URL dump, while the usage
+        // statistics question holds the e-mail question back.
+        QVERIFY2(run({QStringLiteral("--launch-type=1"), QStringLiteral("--no-start-nag"),
+                      QStringLiteral("--test-ssl-disable"), QStringLiteral("--test-dump-urls"),
+                      QStringLiteral("--test-custom-locales=en_US")},
+                     [&]() {
+                         const QByteArray log = readFile(home.logFile());
+                         return readFile(home.trackingFile()).count("\"URL_OPEN\"") == 1 &&
+                                log.contains("Update check failed") &&
+                                log.contains("Gateway holds \"EMAIL_DIALOG\"");
+                     }),
+                 "the first launch did not walk every path");
+        // The question answered, a requested nag waits for nothing: the web nag with its collects.
+        QVERIFY(writeFile(home.settingsFile(QStringLiteral("application.ini")),
+                          "[General]\nis_first_show_appstore_statistic=false\n"));
+        QVERIFY2(run({QStringLiteral("--no-start-nag"), QStringLiteral("--test-ssl-disable"),
+                      QStringLiteral("--test-custom-locales=en_US"),
+                      QStringLiteral("--open-nag=%1/nag/main.qml?email=%2&name=Zelda%20Quonk")
+                          .arg(server.base(), encodedAddress)},
+                     [&]() {
+                         const QByteArray tracking = readFile(home.trackingFile());
+                         return subscriptions == 2 && tracking.count("\"URL_OPEN\"") == 2 &&
+                                tracking.contains("\"NAG_CLOSE\"") &&
+                                readFile(home.logFile()).contains("CollectEmail request failed");
+                     }),
+                 "the web nag did not walk every path");
         // A request for a nag elsewhere that names the user; then an exception that ends a run.
         {
             QProcess refusing;
@@ -226,7 +239,7 @@ private slots:
                        {QStringLiteral("--no-start-nag"),
                         QStringLiteral("--open-nag=https://elsewhere.example/u/%1/?name=Zelda%20Quonk")
                             .arg(address)},
-                       verbose, host);
+                       verbose, hostCopy);
             const bool refused = QTest::qWaitFor(
                 [&]() { return readFile(home.logFile()).contains("Nag request refused"); }, 60000);
             refusing.terminate();
@@ -238,7 +251,7 @@ private slots:
                        {QStringLiteral("--no-start-nag"), QStringLiteral("--test-crash-after=0"),
                         QStringLiteral("--test-crash-reason=exception"),
                         QStringLiteral("--test-crash-thread=main")},
-                       verbose, host);
+                       verbose, hostCopy);
             QVERIFY(crashing.waitForFinished(60000));
             console += crashing.readAllStandardOutput() + crashing.readAllStandardError();
         }
