@@ -10,6 +10,7 @@ packages=(
   qttranslations5-l10n  # Qt's own dialog texts in every product locale (copied into the resource tree)
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
   libboost-dev libgoogle-glog-dev libbenchmark-dev
+  valgrind  # the event guard's instruction counts (scripts/bench.sh)
   xvfb xauth imagemagick
   fonts-dejavu-core fonts-dejavu-extra
   fonts-noto-cjk  # Japanese, Korean, simplified and traditional Chinese: without it those locales draw boxes
