@@ -70,9 +70,9 @@ for name in os.listdir(out):
                 # The median of the repetitions where there are several.
                 if b.get("run_type") == "aggregate" and b.get("aggregate_name") != "median":
                     continue
-                # "BM_X/press:0/iterations:400/manual_time" is read as "BM_X/press:0".
+                # "BM_X/press:0/iterations:400/manual_time" (or /real_time) is read as "BM_X/press:0".
                 key = "/".join(p for p in b.get("run_name", b["name"]).split("/")
-                               if p != "manual_time" and not p.startswith("iterations:"))
+                               if p not in ("manual_time", "real_time") and not p.startswith("iterations:"))
                 results[key] = b
 
 def time_us(name):
