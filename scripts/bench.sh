@@ -101,7 +101,7 @@ def callgrind_totals(folder):
             for line in f:
                 if line.startswith("desc: Trigger: Client Request: "):
                     trigger = line.split(": ")[-1].strip()
-                elif line.startswith("totals:") or line.startswith("summary:"):
+                elif line.startswith("summary:"):  # the program's total, as callgrind_annotate says
                     total = int(line.split()[1])
         if trigger and total:
             totals[trigger] = total
