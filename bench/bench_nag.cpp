@@ -5,6 +5,10 @@
 //
 //   build/bin/bench_nag
 //
+// `bench_nag --bare-start=<ms>` is the baseline of bench_start's start that shows a nag: a
+// QApplication and a QMainWindow with a menu, shown, then a bare QQuickWidget drawing the nag the
+// host shows at its start, and a quit after <ms>, as the host's --quit-after.
+//
 // "First frame": the nag's scene rendered once (its QQuickWindow's afterRendering). The strategy
 // here shows the nag's widget and ends the nag at that frame; what a product's dialog strategy
 // adds around it (dimmers, a dialog) is its own cost, not the nag library's.
@@ -21,6 +25,9 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QFile>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QQmlContext>
 #include <QQuickWidget>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
@@ -28,6 +35,8 @@
 #include <QTimer>
 
 #include <chrono>
+#include <cstdlib>
+#include <cstring>
 
 using namespace Ostrel::App::NagScreen;
 
@@ -146,10 +155,31 @@ void BM_NagRatio(benchmark::State& state)
 }
 BENCHMARK(BM_NagRatio)->Iterations(20)->Unit(benchmark::kMillisecond);
 
+int bareStartWithNag(int argc, char** argv, int quitAfterMs)
+{
+    QApplication app(argc, argv);
+    QMainWindow window;
+    window.menuBar()->addMenu(QStringLiteral("&Help"))->addAction(QStringLiteral("&About"));
+    window.resize(800, 600);
+    window.show();
+    QObject bridge; // the nag calls its bridge only when clicked
+    QQuickWidget view;
+    QTimer::singleShot(0, &app, [&]() {
+        view.setResizeMode(QQuickWidget::SizeViewToRootObject);
+        view.rootContext()->setContextProperty(QStringLiteral("callback"), &bridge);
+        view.setSource(QUrl(QStringLiteral("qrc:/NagScreen/app_start/main.qml")));
+        view.show();
+    });
+    QTimer::singleShot(quitAfterMs, &app, &QCoreApplication::quit);
+    return QApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    if (argc > 1 && std::strncmp(argv[1], "--bare-start=", 13) == 0)
+        return bareStartWithNag(argc, argv, std::atoi(argv[1] + 13));
     FLAGS_minloglevel = google::GLOG_ERROR;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);

@@ -6,6 +6,11 @@
 //
 //   build/bin/bench_start [--host=<path of ostrel-host>]   (default: beside this program)
 //
+// BM_StartWithNagRatio: the host showing the nag of its start at once and quitting after a while,
+// against `bench_nag --bare-start` (the bare window with a bare QQuickWidget drawing the same nag,
+// quitting after the same while): the first nag loads Qt Quick, which the bare program links.
+// Neither does anything once the nag is drawn, so the wait costs no CPU.
+//
 // The host runs in a scratch home and runtime folder, offscreen, so it touches no real settings.
 
 #include <benchmark/benchmark.h>
@@ -45,6 +50,14 @@ std::string& selfPath()
     static std::string path;
     return path;
 }
+
+std::string& bareNagPath()
+{
+    static std::string path;
+    return path;
+}
+
+const char* const NagWaitMs = "1500";
 
 // Runs the program to its end with the environment given and reads what the kernel counted.
 Usage run(const std::vector<std::string>& args, const std::vector<std::string>& environment)
@@ -102,6 +115,15 @@ struct Scratch
 
     Usage host() const { return run({hostPath(), "--no-start-nag", "--quit-after=0"}, environment); }
     Usage bare() const { return run({selfPath(), "--bare"}, environment); }
+    Usage hostWithNag() const
+    {
+        return run({hostPath(), "--start-nag-delay=0", std::string("--quit-after=") + NagWaitMs},
+                   environment);
+    }
+    Usage bareWithNag() const
+    {
+        return run({bareNagPath(), std::string("--bare-start=") + NagWaitMs}, environment);
+    }
 };
 
 void BM_StartRatio(benchmark::State& state)
@@ -131,6 +153,28 @@ void BM_StartRatio(benchmark::State& state)
 }
 BENCHMARK(BM_StartRatio)->Iterations(10)->Unit(benchmark::kMillisecond);
 
+void BM_StartWithNagRatio(benchmark::State& state)
+{
+    Scratch scratch;
+    scratch.host();
+    double hostCpu = 0, bareCpu = 0;
+    for (auto _ : state) {
+        const Usage bare = scratch.bareWithNag();
+        const Usage host = scratch.hostWithNag();
+        if (host.cpuSeconds <= 0 || bare.cpuSeconds <= 0) {
+            state.SkipWithError("a start failed (are ostrel-host and bench_nag built?)");
+            return;
+        }
+        bareCpu += bare.cpuSeconds;
+        hostCpu += host.cpuSeconds;
+    }
+    const double n = double(state.iterations());
+    state.counters["host_ms"] = hostCpu / n * 1000;
+    state.counters["bare_ms"] = bareCpu / n * 1000;
+    state.counters["ratio"] = hostCpu / bareCpu;
+}
+BENCHMARK(BM_StartWithNagRatio)->Iterations(6)->Unit(benchmark::kMillisecond);
+
 int bareWindow(int argc, char** argv)
 {
     QApplication app(argc, argv);
@@ -152,6 +196,7 @@ int main(int argc, char** argv)
     const ssize_t length = readlink("/proc/self/exe", resolved, sizeof(resolved) - 1);
     selfPath() = length > 0 ? std::string(resolved, size_t(length)) : std::string(argv[0]);
     hostPath() = selfPath().substr(0, selfPath().rfind('/') + 1) + "ostrel-host";
+    bareNagPath() = selfPath().substr(0, selfPath().rfind('/') + 1) + "bench_nag";
     for (int i = 1; i < argc; ++i) {
         if (std::strncmp(argv[i], "--host=", 7) == 0)
             hostPath() = argv[i] + 7;

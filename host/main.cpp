@@ -43,8 +43,6 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
-#include <QQuickWindow>
-#include <QSGRendererInterface>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -200,10 +198,6 @@ int main(int argc, char** argv)
     const auto lifetime = std::make_shared<LifetimeManager>();
     Application app(argc, argv, lifetime);
     Util::InstallQtMessageRouting();
-    // Without a display there is no OpenGL for the nags' Qt Quick scenes: draw them in software.
-    if (QGuiApplication::platformName() == QLatin1String("offscreen") &&
-        !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
-        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     // The shell's test options act from here on (the SSL choice before any URL exists).
     const auto testing = TestingWiring::create(lifetime);
     if (!testing)

@@ -8,12 +8,14 @@
 #   BENCH_JSON       where the table goes (default <build>/bench-table.json)
 #   BENCH_SKIP_BUILD=1  run what is already built
 #   BENCH_REPETITIONS   runs of each benchmark, the table takes the median (default 3; at least
-#                       10 for the event guard's ratio)
+#                       10 for the event guard's time ratio)
+#   BENCH_IPC_REQUESTS  requests of other processes sent in a row (default 100000; the run stops
+#                       after 120 s whatever the count)
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${BENCH_BUILD_DIR:-$root/build-bench}
 table=${BENCH_JSON:-$build/bench-table.json}
-benches=(bench_lookandfeel bench_kernel bench_gesture bench_nag bench_start)
+benches=(bench_lookandfeel bench_kernel bench_gesture bench_nag bench_settings bench_ipc bench_start)
 
 if [ "${BENCH_SKIP_BUILD:-0}" != 1 ]; then
   "$root/scripts/bootstrap.sh"
@@ -45,7 +47,13 @@ for bench in "${benches[@]}"; do
       # process shift it by several percent (0.99 alone, 1.10 after them, same binary).
       run_bench bench_kernel_notify "$bench" $((repetitions > 10 ? repetitions : 10)) \
         --benchmark_filter=NotifyRatio
-      run_bench "$bench" "$bench" "$repetitions" --benchmark_filter=-NotifyRatio ;;
+      run_bench "$bench" "$bench" "$repetitions" --benchmark_filter=-NotifyRatio
+      # The event guard's goal is read in instructions, which a busy machine cannot move: one
+      # fixed batch through each side, each counted in a callgrind dump of its own.
+      rm -f "$out"/notify.callgrind*
+      valgrind --tool=callgrind --instr-atstart=no --callgrind-out-file="$out/notify.callgrind" \
+        "$build/bin/$bench" --count-instructions >/dev/null 2>"$out/notify-callgrind.log" ;;
+    bench_ipc) run_bench "$bench" "$bench" 1 --requests="${BENCH_IPC_REQUESTS:-100000}" ;;
     *) run_bench "$bench" "$bench" "$repetitions" ;;
   esac
 done
@@ -62,9 +70,9 @@ for name in os.listdir(out):
                 # The median of the repetitions where there are several.
                 if b.get("run_type") == "aggregate" and b.get("aggregate_name") != "median":
                     continue
-                # "BM_X/press:0/iterations:400/manual_time" is read as "BM_X/press:0".
+                # "BM_X/press:0/iterations:400/manual_time" (or /real_time) is read as "BM_X/press:0".
                 key = "/".join(p for p in b.get("run_name", b["name"]).split("/")
-                               if p != "manual_time" and not p.startswith("iterations:"))
+                               if p not in ("manual_time", "real_time") and not p.startswith("iterations:"))
                 results[key] = b
 
 def time_us(name):
@@ -81,6 +89,23 @@ def fmt_time(us):
     if us < 1000:
         return f"{us:.1f} µs"
     return f"{us / 1000:.2f} ms"
+
+def callgrind_totals(folder):
+    # Each dump names the client request that made it ("shell", "qapplication").
+    totals = {}
+    for name in os.listdir(folder):
+        if not name.startswith("notify.callgrind."):
+            continue
+        trigger, total = None, None
+        with open(os.path.join(folder, name)) as f:
+            for line in f:
+                if line.startswith("desc: Trigger: Client Request: "):
+                    trigger = line.split(": ")[-1].strip()
+                elif line.startswith("summary:"):  # the program's total, as callgrind_annotate says
+                    total = int(line.split()[1])
+        if trigger and total:
+            totals[trigger] = total
+    return totals
 
 rows = []
 def pair(measure, shell, baseline, what, goal):
@@ -103,26 +128,62 @@ try:
     r = start["ratio"]
     rows.append(dict(measure="host start, --no-start-nag --quit-after=0, CPU", shell=f"{start['host_ms']:.1f} ms",
                      baseline=f"{start['bare_ms']:.1f} ms bare QApplication + QMainWindow with a menu",
-                     ratio=round(r, 3), goal="≤ 2×", met=r <= 2))
+                     ratio=round(r, 3), goal="≤ 1.5×", met=r <= 1.5))
     extra = start["extra_MiB"]
     rows.append(dict(measure="host peak memory", shell=f"{start['host_MiB']:.1f} MiB", baseline=f"{start['bare_MiB']:.1f} MiB",
-                     ratio=f"+{extra:.1f} MiB", goal="≤ +12 MiB", met=extra <= 12))
+                     ratio=f"+{extra:.1f} MiB", goal="≤ +6 MiB", met=extra <= 6))
 except KeyError:
-    rows.append(dict(measure="host start", shell="–", baseline="missing BM_StartRatio", ratio=None, goal="≤ 2×", met=False))
+    rows.append(dict(measure="host start", shell="–", baseline="missing BM_StartRatio", ratio=None, goal="≤ 1.5×", met=False))
+try:
+    start = results["BM_StartWithNagRatio"]
+    r = start["ratio"]
+    rows.append(dict(measure="host start showing the start nag (the first nag loads Qt Quick), CPU",
+                     shell=f"{start['host_ms']:.1f} ms",
+                     baseline=f"{start['bare_ms']:.1f} ms the bare window with a QQuickWidget drawing the same nag",
+                     ratio=round(r, 3), goal="≤ 1.6×", met=r <= 1.6))
+except KeyError:
+    rows.append(dict(measure="host start showing a nag", shell="–", baseline="missing BM_StartWithNagRatio", ratio=None, goal="≤ 1.6×", met=False))
 try:
     nag = results["BM_NagRatio"]
     r = nag["ratio"]
     rows.append(dict(measure="ShowNag of a local QML nag to its first frame (CPU)", shell=f"{nag['shell_ms']:.2f} ms",
                      baseline=f"{nag['bare_ms']:.2f} ms raw QQuickWidget load to first frame", ratio=round(r, 3),
-                     goal="≤ 1.3×", met=r <= 1.3))
+                     goal="≤ 1.1×", met=r <= 1.1))
 except KeyError:
-    rows.append(dict(measure="ShowNag to first frame", shell="–", baseline="missing BM_NagRatio", ratio=None, goal="≤ 1.3×", met=False))
+    rows.append(dict(measure="ShowNag to first frame", shell="–", baseline="missing BM_NagRatio", ratio=None, goal="≤ 1.1×", met=False))
+counts = callgrind_totals(out)
+if "shell" in counts and "qapplication" in counts:
+    r = counts["shell"] / counts["qapplication"]
+    rows.append(dict(measure="event guard, non-input events, instructions", shell=f"{counts['shell']:,} Ir",
+                     baseline=f"{counts['qapplication']:,} Ir QApplication::notify, same batch", ratio=round(r, 4),
+                     goal="≤ 1.02×", met=r <= 1.02))
+else:
+    rows.append(dict(measure="event guard, instructions", shell="–", baseline="missing callgrind dumps (is valgrind installed?)",
+                     ratio=None, goal="≤ 1.02×", met=False))
 try:
     n = results["BM_NotifyRatio/press:0"]["ratio"]
-    rows.append(dict(measure="event guard, non-input events", shell="", baseline="QApplication::notify",
-                     ratio=round(n, 3), goal="≤ 1.03×", met=n <= 1.03))
+    rows.append(dict(measure="event guard, non-input events, CPU time (information)", shell="", baseline="QApplication::notify",
+                     ratio=round(n, 3), goal="–", met=None))
 except KeyError:
     pass
+try:
+    saved = results["BM_SettingsQuit"]
+    writes, written, size = int(saved["writes"]), int(saved["written_bytes"]), int(saved["file_bytes"])
+    rows.append(dict(measure="settings: a quit that changes 20 values of one file", shell=f"{writes} write(s), {written:,} bytes",
+                     baseline=f"{size:,} bytes, one save of the file", ratio=round(written / size, 2) if size else None,
+                     goal="1 write", met=writes == 1))
+except KeyError:
+    rows.append(dict(measure="settings saves", shell="–", baseline="missing BM_SettingsQuit", ratio=None, goal="1 write", met=False))
+try:
+    ipc = results["BM_IpcRequests"]
+    sent = int(ipc["requests"])
+    rows.append(dict(measure=f"requests of other processes, {sent:,} in a row: primary's memory", shell=f"+{ipc['growth_MiB']:.1f} MiB",
+                     baseline="after the first 1,000", ratio=f"+{ipc['growth_MiB']:.1f} MiB", goal="≤ +4 MiB",
+                     met=ipc["growth_MiB"] <= 4 and int(ipc["failed"]) == 0))
+    rows.append(dict(measure="requests of other processes: the slowest", shell=f"{ipc['max_ms']:.1f} ms",
+                     baseline=f"{int(ipc['failed'])} failed", ratio=None, goal="≤ 50 ms", met=ipc["max_ms"] <= 50))
+except KeyError:
+    rows.append(dict(measure="requests of other processes", shell="–", baseline="missing BM_IpcRequests", ratio=None, goal="≤ +4 MiB", met=False))
 allocs = [b["allocations_per_message"] for k, b in results.items() if k.startswith("BM_Decode")]
 if allocs:
     a = max(allocs)
@@ -134,6 +195,7 @@ print("| measure | shell | baseline | ratio | goal | met |")
 print("|---|---|---|---|---|---|")
 for r in rows:
     ratio = "" if r["ratio"] is None else (r["ratio"] if isinstance(r["ratio"], str) else f"{r['ratio']:.2f}×")
-    print(f"| {r['measure']} | {r['shell']} | {r['baseline']} | {ratio} | {r['goal']} | {'yes' if r['met'] else 'NO'} |")
+    met = "–" if r["met"] is None else ("yes" if r["met"] else "NO")
+    print(f"| {r['measure']} | {r['shell']} | {r['baseline']} | {ratio} | {r['goal']} | {met} |")
 print(f"\n(JSON: {table_path})")
 PY

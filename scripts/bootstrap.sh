@@ -10,6 +10,7 @@ packages=(
   qttranslations5-l10n  # Qt's own dialog texts in every product locale (copied into the resource tree)
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
   libboost-dev libgoogle-glog-dev libbenchmark-dev
+  valgrind  # the event guard's instruction counts (scripts/bench.sh)
   xvfb xauth imagemagick
   openbox xdotool x11-utils  # scripts/uiwalk.sh: a window manager, the driver, xwininfo
   fonts-dejavu-core fonts-dejavu-extra

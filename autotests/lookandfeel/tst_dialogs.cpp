@@ -156,6 +156,7 @@ private slots:
         }
         QCOMPARE(m_settings->GetBool("confirm/Question_1_dont_confirm", false), remembered);
 
+        QCoreApplication::processEvents(); // the store saves its changes at the next turn
         const auto readBack = probe({QStringLiteral("confirm"), m_file, QStringLiteral("Question_1")});
         QCOMPARE(readBack.value(QStringLiteral("shown")),
                  remembered ? QStringLiteral("0") : QStringLiteral("1"));
@@ -238,6 +239,7 @@ private slots:
 
         // An entry missing below the count reads as transparent's name.
         stored->Remove(key(QStringLiteral("Color0")));
+        QCoreApplication::processEvents(); // saved at the next turn
         QCOMPARE(probe({QStringLiteral("colors-load"), m_file}).value(QStringLiteral("color0")),
                  QColor(Qt::transparent).name());
     }

@@ -9,6 +9,7 @@
 #include "ScopedEnvironmentVariable.h"
 #include "TestEnvironment.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDir>
 #include <QFile>
 #include <QLocalSocket>
@@ -16,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Ostrel::App;
@@ -170,6 +172,9 @@ private Q_SLOTS:
     {
         LocalSocketProtocol server(uniqueProduct("one"));
         QVERIFY(server.Listen());
+        // A deadline far away: the connection's timer must end with the connection, not at it.
+        server.SetConnectionLimits(LocalSocketProtocol::DefaultMaxConnections, 600000);
+        const QObjectList timersBefore = QAbstractEventDispatcher::instance()->children();
         QSignalSpy received(&server, &IPCBaseProtocol::OnOpenNagReceived);
         Ostrel::Test::LogCapture log;
         const auto client = connectedClient(server.ServerName());
@@ -183,6 +188,10 @@ private Q_SLOTS:
         QCOMPARE(received.at(0).at(0).toString(), QStringLiteral("n0"));
         QVERIFY(!log.matching("a connection carries one request").empty());
         QCOMPARE(received.size(), 1);
+        // A timer left behind by the ended connection would pile up under a stream of requests.
+        QTRY_VERIFY(std::all_of(QAbstractEventDispatcher::instance()->children().cbegin(),
+                                QAbstractEventDispatcher::instance()->children().cend(),
+                                [&](QObject* timer) { return timersBefore.contains(timer); }));
     }
 
     void connectionsAreCappedInNumberAndTime()

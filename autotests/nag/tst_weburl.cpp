@@ -24,6 +24,7 @@
 #include "RecordingHttpServer.h"
 #include "TestEnvironment.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <QUrlQuery>
 
@@ -53,6 +54,13 @@ public:
 private:
     int m_code;
 };
+
+// Read off the process's mappings.
+bool qtQuickLoaded()
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libQt5Quick.so");
+}
 
 } // namespace
 
@@ -199,6 +207,10 @@ private Q_SLOTS:
         QCOMPARE(storage.cleanupNagId("a", "m", "z"), std::string());
     }
 
+    // Qt Quick comes with the first nag (the nag library loads its Qt Quick half then), not with
+    // the shell: a start that shows no nag never loads it.
+    void theShellLoadsNoQtQuick() { QVERIFY(!qtQuickLoaded()); }
+
     // Through the manager: a row addressed to the nag server is asked with the generated request,
     // a nag opened on request loads its own address. The id the nag reports is locked while it is
     // up, so a request made meanwhile asks for it again, and released once it has been seen.
@@ -251,6 +263,7 @@ private Q_SLOTS:
         manager->SetShowStrategy(strategy);
         manager->AddNag(QStringLiteral("free"), action, server.url(source), {}, {}, 0);
         QCOMPARE(manager->ShowNag(action), code);
+        QVERIFY(qtQuickLoaded());
         customization->custom.clear();
 
         const QUrl asked = server.url(source);

@@ -33,7 +33,6 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QQuickWindow>
 #include <QTimer>
 
 using namespace Ostrel::App;
@@ -47,8 +46,6 @@ int main(int argc, char** argv)
     const auto lifetime = std::make_shared<LifetimeManager>();
     Application app(argc, argv, lifetime);
     Testing testing(lifetime); // the shell's --test-* options, acting from here on
-    if (QGuiApplication::platformName() == QLatin1String("offscreen")) // no OpenGL for the nags' scenes
-        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
 
     // 3. The components: the customization first, the settings, the launch type after them.
     const auto customization =

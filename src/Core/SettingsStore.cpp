@@ -5,6 +5,7 @@
 
 #include <glog/logging.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
@@ -44,6 +45,16 @@ class SettingsStore::Impl
 public:
     explicit Impl(const QString& path) : filePath(path), settings(path, QSettings::IniFormat)
     {
+        if (auto* application = QCoreApplication::instance()) {
+            // The saves run in the application's thread, whichever thread changed a value; the
+            // context ends with the store, and a save still queued with it.
+            saver = std::make_unique<QObject>();
+            saver->moveToThread(application->thread());
+            QObject::connect(application, &QCoreApplication::aboutToQuit, saver.get(), [this]() {
+                std::lock_guard<std::recursive_mutex> lock(mutex);
+                saveIfChanged();
+            });
+        }
         const QFileInfo info(path);
         bool broken = settings.status() != QSettings::NoError;
         if (!broken && info.exists()) {
@@ -154,19 +165,50 @@ public:
                          << " named no owner; removed";
     }
 
+    ~Impl() { saveIfChanged(); }
+
     void write(const std::string& key, const QVariant& value)
     {
-        // Each write is a locked, synced, atomic save of the whole file: a value that is already
-        // there (same type, same value) is not saved again.
+        // A value that is already there (same type, same value) changes nothing to save.
         const QString name = Util::Utf8ToQString(key);
         const QVariant stored = settings.value(name);
         if (stored.isValid() && stored.userType() == value.userType() && stored == value)
             return;
         settings.setValue(name, value);
-        flush();
+        changed();
     }
 
-    void flush()
+    // Each save is a locked, synced, atomic rewrite of the whole file, so the changes of one turn
+    // of the event loop are saved together at the next one: a run that changes twenty values
+    // rewrites the file once, not twenty times. Without an application (a tool, a test before
+    // it) every change is saved at once.
+    void changed()
+    {
+        if (!saver) {
+            save();
+            return;
+        }
+        if (savePending)
+            return;
+        savePending = true;
+        QMetaObject::invokeMethod(
+            saver.get(),
+            [this]() {
+                std::lock_guard<std::recursive_mutex> lock(mutex);
+                saveIfChanged();
+            },
+            Qt::QueuedConnection);
+    }
+
+    void saveIfChanged()
+    {
+        if (!savePending)
+            return;
+        savePending = false;
+        save();
+    }
+
+    void save()
     {
         settings.sync();
         // A FormatError here only says that the re-read file had a line QSettings skipped (a "#"
@@ -192,6 +234,9 @@ public:
     bool readOnly = false;
     bool writeChecked = false;
     bool writeErrorReported = false;
+    bool savePending = false;
+    // Declared last, so that it goes first: no queued save runs on a store half destroyed.
+    std::unique_ptr<QObject> saver;
 };
 
 SettingsStore::SettingsStore(const QString& filePath) : d(std::make_unique<Impl>(filePath)) {}
@@ -286,7 +331,7 @@ void SettingsStore::Remove(const std::string& key)
     d->settings.remove(name);
     for (const auto& [child, value] : below)
         d->settings.setValue(name + QLatin1Char('/') + child, value);
-    d->flush();
+    d->changed();
 }
 
 void SettingsStore::SetBool(const std::string& key, bool value)
@@ -316,7 +361,7 @@ void SettingsStore::RemoveGroup(const std::string& group)
     if (!d->checkWritable(group))
         return;
     d->settings.remove(Util::Utf8ToQString(group));
-    d->flush();
+    d->changed();
 }
 
 std::vector<std::string> SettingsStore::ChildKeys(const std::string& group) const

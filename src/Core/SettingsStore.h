@@ -14,7 +14,9 @@ namespace Ostrel::App {
 /// - Typed reads give the default for an absent key and for a value that does not convert
 ///   ("abc" read as a number), the latter with a WARNING line naming key and file.
 ///   Booleans read "true"/"false"/"1"/"0" in any case.
-/// - Every write reaches the disk before it returns, so a crash never loses a value.
+/// - The changes of one turn of the event loop are saved together, in one rewrite of the file, at
+///   the next turn; the rest at quit (QCoreApplication::aboutToQuit) and when the store goes.
+///   Without an application object every change is saved at once. Reads see a change at once.
 /// - A file that exists but cannot be read or parsed, or holds a value this build cannot decode
 ///   ("@Variant(...)" of an unknown type), is never overwritten: the store logs one ERROR line
 ///   naming the file (and the line), serves what it could read and ignores writes (each with a

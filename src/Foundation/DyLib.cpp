@@ -49,4 +49,9 @@ void* DyLib::address(const char* symbol) const
     return DyLibPlatform::symbol(d->handle, symbol);
 }
 
+std::string DyLib::fileOf(const void* address)
+{
+    return address ? DyLibPlatform::fileOf(address) : std::string();
+}
+
 } // namespace Ostrel::Core

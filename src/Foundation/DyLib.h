@@ -35,6 +35,10 @@ public:
     /// type), or null when the library is not loaded or has no such symbol.
     template <class F> F* resolve(const char* symbol) const { return reinterpret_cast<F*>(address(symbol)); }
 
+    /// The file (UTF-8 path) of the loaded library or program that holds `address`: how a library
+    /// finds the plug-ins installed beside it wherever it is installed. Empty when unknown.
+    static std::string fileOf(const void* address);
+
 private:
     void* address(const char* symbol) const;
 

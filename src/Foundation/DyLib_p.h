@@ -9,5 +9,7 @@ namespace Ostrel::Core::DyLibPlatform {
 void* open(const std::string& name, std::string& error);
 void close(void* handle);
 void* symbol(void* handle, const char* name);
+/// The path of the module that holds `address`, UTF-8; empty when none does.
+std::string fileOf(const void* address);
 
 } // namespace Ostrel::Core::DyLibPlatform

@@ -29,4 +29,12 @@ void* symbol(void* handle, const char* name)
     return ::dlsym(handle, name);
 }
 
+std::string fileOf(const void* address)
+{
+    Dl_info info{};
+    if (::dladdr(address, &info) == 0 || !info.dli_fname)
+        return {};
+    return info.dli_fname;
+}
+
 } // namespace Ostrel::Core::DyLibPlatform

@@ -102,11 +102,16 @@ bool LocalSocketProtocol::Listen()
         d->capLogged = false;
         connect(socket, &QObject::destroyed, this, [this]() { --d->open; });
         auto reader = std::make_shared<IpcFrameReader>();
-        // The whole connection has a deadline, however slowly its bytes trickle in.
-        QTimer::singleShot(d->deadlineMs, socket, [socket]() {
+        // The whole connection has a deadline, however slowly its bytes trickle in. The timer is
+        // the socket's child, so it ends with the connection: a timer that outlived it would keep
+        // its memory for the whole deadline, and a stream of requests would pile them up.
+        auto* deadline = new QTimer(socket);
+        deadline->setSingleShot(true);
+        connect(deadline, &QTimer::timeout, socket, [socket]() {
             LOG(WARNING) << "Inter-process request dropped: the client sent nothing whole in time";
             socket->abort();
         });
+        deadline->start(d->deadlineMs);
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         connect(socket, &QLocalSocket::readyRead, this, [this, socket, reader]() {
             if (socket->property("answered").toBool()) {

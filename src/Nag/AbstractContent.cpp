@@ -96,4 +96,9 @@ std::shared_ptr<IActionStrategy> AbstractContent::actionStrategy() const
     return d->environment.actionStrategy ? d->environment.actionStrategy() : nullptr;
 }
 
+QString AbstractContent::ReportedId() const
+{
+    return {};
+}
+
 } // namespace Ostrel::App::NagScreen

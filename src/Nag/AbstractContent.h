@@ -56,6 +56,9 @@ public:
     virtual QSize HashSize() const = 0;
     /// What the nag shows now; null before the first frame.
     virtual QPixmap Picture() const = 0;
+    /// The id a web nag's server gave it (its "nag_id"), without the nag map's fallback; empty for
+    /// other nags, while loading, or when it names none.
+    virtual QString ReportedId() const;
 
 Q_SIGNALS:
     void Finished(int code, const QMap<QString, QVariant>& params);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Nag/ostrel_nag_export.h"
+#include "Nag/ostrel_nagquick_export.h"
 
 namespace Ostrel::App::NagScreen {
 
@@ -9,6 +9,6 @@ namespace Ostrel::App::NagScreen {
 /// per process; later calls return at once. A file that does not register is logged as a WARNING
 /// line, and the nag then draws with a substitute font. A machine that has a real Arial or
 /// Verdana draws the nags with it: a substitution applies only to a family the machine lacks.
-OSTREL_NAG_EXPORT void RegisterNagFonts();
+OSTREL_NAGQUICK_EXPORT void RegisterNagFonts();
 
 } // namespace Ostrel::App::NagScreen

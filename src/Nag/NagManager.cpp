@@ -10,7 +10,6 @@
 #include "Nag/INagIdLockStorage.h"
 #include "Nag/IShowStrategy.h"
 #include "Nag/IWebNagUrlGenerator.h"
-#include "Nag/WebQuickContent.h"
 
 #include <glog/logging.h>
 
@@ -355,8 +354,7 @@ int NagManager::ShowNag(const QString& action)
     // A web nag's id is the server's promise: locked while it is on its way to the screen, so that
     // a show cut short (a failure, the program ending) makes the next request ask for it again.
     const auto locks = self->nagIdLocks;
-    const auto* web = qobject_cast<const WebQuickContent*>(content.get());
-    const std::string promised = locks && web ? Util::QStringToUtf8(web->ReportedId()) : std::string();
+    const std::string promised = locks ? Util::QStringToUtf8(content->ReportedId()) : std::string();
     const std::string lockAction = Util::QStringToUtf8(content->AppAction());
     const std::string lockMode = Util::QStringToUtf8(content->AppMode());
     if (!promised.empty())

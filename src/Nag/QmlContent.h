@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Nag/AbstractContent.h"
+#include "Nag/ostrel_nagquick_export.h"
 
 class QQuickItem;
 class QQuickWidget;
@@ -15,7 +16,7 @@ class NagCallback;
 /// Properties read from the nag's root item (all optional): "nag_id", "nag_name", "nag_type",
 /// "nag_locale" (makes HasLocale true), "dimming_name", "dimming_parameters" (a JS object of
 /// strings), "hash_name", "hash_size" (a size), "nag_hash" (the declared fingerprint).
-class OSTREL_NAG_EXPORT QmlContent : public AbstractContent
+class OSTREL_NAGQUICK_EXPORT QmlContent : public AbstractContent
 {
     Q_OBJECT
 public:

@@ -5,7 +5,7 @@
 namespace Ostrel::App::NagScreen {
 
 /// A QML nag shipped with the product (resources) or lying in a local folder.
-class OSTREL_NAG_EXPORT QuickContent : public QmlContent
+class OSTREL_NAGQUICK_EXPORT QuickContent : public QmlContent
 {
     Q_OBJECT
 public:

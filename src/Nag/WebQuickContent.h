@@ -11,7 +11,7 @@ namespace Ostrel::App::NagScreen {
 /// generator's request, which describes the installation; any other address (a nag opened on
 /// request) loads as it stands. A server that answers with an error, or doesn't answer within the
 /// environment's time-out, makes it Failed.
-class OSTREL_NAG_EXPORT WebQuickContent : public QmlContent
+class OSTREL_NAGQUICK_EXPORT WebQuickContent : public QmlContent
 {
     Q_OBJECT
 public:
@@ -24,9 +24,7 @@ public:
     QString Type() const override;
     void Load() override;
     void LoadFromPath(const QString& path) override;
-    /// The id the loaded nag gives itself ("nag_id"), without the nag map's fallback; empty while
-    /// loading or when it names none.
-    QString ReportedId() const;
+    QString ReportedId() const override;
 
 protected:
     QQuickItem* nagItem() const override;

@@ -10,8 +10,6 @@
 #include "Foundation/Utf8.h"
 #include "Nag/AbstractContent.h"
 #include "Nag/INagsSettings.h"
-#include "Nag/QuickContent.h"
-#include "Nag/WebQuickContent.h"
 #include "QtUtil/SpontaneousDialog.h"
 
 #include <boost/scope_exit.hpp>
@@ -140,7 +138,9 @@ int DialogStrategy::ShowNag(AbstractContent& content)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setObjectName(QStringLiteral("horizontalLayout"));
 
-    if (WebQuickContent::staticMetaObject.cast(&content) || QuickContent::staticMetaObject.cast(&content))
+    // By name: the QML contents live in the nag library's Qt Quick half, which the shell does not
+    // link (it is loaded with the first nag).
+    if (content.inherits("Ostrel::App::NagScreen::QmlContent"))
         ApplyQmlWindowFocusWorkaround(&dialog, content.GetUi());
 
     // The content owns its widget: it must leave the dialog before the dialog's destructor would
