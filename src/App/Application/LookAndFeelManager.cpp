@@ -21,6 +21,7 @@
 #include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QPixmapCache>
 #include <QResource>
@@ -196,6 +197,19 @@ public:
             }
         }
         QStringList files;
+        // Qt's own texts (the buttons of message boxes, the colour and file dialogs) from where the
+        // system installs them (Debian's qttranslations5-l10n), whatever base names the product
+        // lists; first, so that a product's file translating the same text wins. Qt names most of
+        // its files by language alone.
+        const QString locale = Utf8ToQString(m_currentLocale);
+        for (const QString& name : {locale, locale.section(QLatin1Char('_'), 0, 0)}) {
+            const QFileInfo qt(QLibraryInfo::location(QLibraryInfo::TranslationsPath),
+                               QStringLiteral("qtbase_%1.qm").arg(name));
+            if (qt.isFile()) {
+                files.append(qt.absoluteFilePath());
+                break;
+            }
+        }
         for (const QFileInfo& entry : std::as_const(entries)) {
             if (entry.isFile())
                 files.append(entry.absoluteFilePath());
