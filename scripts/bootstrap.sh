@@ -7,7 +7,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config ccache
   qtbase5-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools
-  qttranslations5-l10n  # Qt's own dialog texts in every product locale (copied into the resource tree)
+  qttranslations5-l10n  # Qt's own dialog texts in every product locale, read where Debian installs them
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
   libboost-dev libgoogle-glog-dev libbenchmark-dev
   valgrind  # the event guard's instruction counts (scripts/bench.sh)
@@ -19,6 +19,10 @@ packages=(
   g++-mingw-w64-x86-64-posix
   wine64 doctest-dev
   locales tzdata
+  help2man librsvg2-bin  # the host's manual page and drawn icons
+  lintian desktop-file-utils appstream  # the packages' checks (scripts/package.sh)
+  diffoscope-minimal  # names the difference when two builds differ (scripts/reproducible.sh)
+  mmdebstrap  # a bare Debian root to install the packages into (scripts/bareroot.sh)
 )
 
 missing=()

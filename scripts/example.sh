@@ -6,12 +6,11 @@
 # WORK_DIR (default: a temporary folder, removed at the end) keeps the root and the product's build.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
-build=${BUILD_DIR:-$root/build}
 work=${WORK_DIR:-$(mktemp -d)}
 [ -n "${WORK_DIR:-}" ] || trap 'rm -rf "$work"' EXIT
 multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH 2>/dev/null || gcc -print-multiarch)
 
-BUILD_DIR="$build" PACKAGE_DIR="$work/packages" "$root/scripts/package.sh"
+PACKAGE_DIR="$work/packages" "$root/scripts/package.sh"
 rm -rf "$work/root" "$work/product" "$work/product-src"
 # A product needs the libraries and the development package; the host's package joins later.
 for deb in "$work"/packages/libostrel*.deb; do dpkg -x "$deb" "$work/root"; done

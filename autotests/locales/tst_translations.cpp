@@ -152,28 +152,6 @@ private Q_SLOTS:
         QVERIFY2(faults.isEmpty(),
                  qPrintable(qmFile + QStringLiteral(":\n  ") + faults.join(QStringLiteral("\n  "))));
     }
-
-    // Qt's own buttons and dialogs (the confirmation boxes' Cancel, the colour dialog) speak the
-    // locale too: the resource tree carries Qt's translations beside the shell's.
-    void qtOwnTextsTranslated_data()
-    {
-        QTest::addColumn<QString>("qmFile");
-        for (const QString& locale : QDir(BuildRoot + QStringLiteral("/resources/locales"))
-                                         .entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
-            if (locale != QLatin1String("en_US"))
-                QTest::newRow(qPrintable(locale))
-                    << QStringLiteral("%1/resources/locales/%2/qtbase_%2.qm").arg(BuildRoot, locale);
-        }
-    }
-
-    void qtOwnTextsTranslated()
-    {
-        QFETCH(QString, qmFile);
-        QTranslator translator;
-        QVERIFY2(translator.load(qmFile), qPrintable(QStringLiteral("missing or damaged: ") + qmFile));
-        const QString cancel = translator.translate("QPlatformTheme", "Cancel");
-        QVERIFY2(!cancel.isEmpty() && cancel != QLatin1String("Cancel"), qPrintable(qmFile));
-    }
 };
 
 OSTREL_TEST_MAIN(TranslationsTest)

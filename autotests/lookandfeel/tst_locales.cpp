@@ -199,6 +199,28 @@ private slots:
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
     }
 
+    // Qt's own buttons and dialogs (the confirmation boxes' Cancel, the colour dialog) speak every
+    // locale, read from where the system installs Qt's translations, whatever list of base names
+    // the product passes.
+    void qtOwnTextsTranslated_data()
+    {
+        QTest::addColumn<QString>("locale");
+        for (const QString& locale : QDir(BuildRoot + QStringLiteral("/resources/locales"))
+                                         .entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+            if (locale != QLatin1String("en_US"))
+                QTest::newRow(qPrintable(locale)) << locale;
+        }
+    }
+
+    void qtOwnTextsTranslated()
+    {
+        QFETCH(QString, locale);
+        SystemLanguages manager(BuildRoot, {QStringLiteral("en-US")}, "unknown", {"ostrel"});
+        manager.SetLocale(locale.toStdString());
+        const QString cancel = QCoreApplication::translate("QPlatformTheme", "Cancel");
+        QVERIFY2(!cancel.isEmpty() && cancel != QLatin1String("Cancel"), qPrintable(cancel));
+    }
+
     void damagedTranslationIsSkipped()
     {
         QTemporaryDir dir;
