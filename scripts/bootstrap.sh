@@ -11,6 +11,7 @@ packages=(
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
   libboost-dev libgoogle-glog-dev libbenchmark-dev
   xvfb xauth imagemagick
+  dbus at-spi2-core python3-pyatspi  # scripts/a11y.sh: the desktop's accessibility bus, read as a screen reader does
   fonts-dejavu-core fonts-dejavu-extra
   fonts-noto-cjk  # Japanese, Korean, simplified and traditional Chinese: without it those locales draw boxes
   clang-14 libclang-rt-14-dev clang-format-14
