@@ -13,6 +13,7 @@ packages=(
   valgrind  # the event guard's instruction counts (scripts/bench.sh)
   xvfb xauth imagemagick
   openbox xdotool x11-utils  # scripts/uiwalk.sh: a window manager, the driver, xwininfo
+  dbus at-spi2-core python3-pyatspi  # scripts/a11y.sh: the desktop's accessibility bus, read as a screen reader does
   fonts-dejavu-core fonts-dejavu-extra
   fonts-noto-cjk  # Japanese, Korean, simplified and traditional Chinese: without it those locales draw boxes
   clang-14 libclang-rt-14-dev clang-format-14
