@@ -231,6 +231,7 @@ private slots:
 
         // The same table saved again takes nothing else in its group along.
         stored->SetString(key(QStringLiteral("Color99")), "#ffffff");
+        QCoreApplication::processEvents(); // saved at the next turn
         QVERIFY(Test::ProbeRunner(QStringLiteral(LOOKANDFEEL_PROBE))
                     .run({QStringLiteral("colors-save"), m_file, QStringLiteral("#102030"),
                           QStringLiteral("#a0b0c0")})
