@@ -152,11 +152,17 @@ try:
 except KeyError:
     rows.append(dict(measure="ShowNag to first frame", shell="–", baseline="missing BM_NagRatio", ratio=None, goal="≤ 1.1×", met=False))
 counts = callgrind_totals(out)
-if "shell" in counts and "qapplication" in counts:
-    r = counts["shell"] / counts["qapplication"]
-    rows.append(dict(measure="event guard, non-input events, instructions", shell=f"{counts['shell']:,} Ir",
-                     baseline=f"{counts['qapplication']:,} Ir QApplication::notify, same batch", ratio=round(r, 4),
+if all(k in counts for k in ("live-shell", "live-qapplication", "shell", "qapplication")):
+    r = counts["live-shell"] / counts["live-qapplication"]
+    rows.append(dict(measure="event guard, a live window's non-input events (timer tick to its slot, repaint, relayout), instructions",
+                     shell=f"{counts['live-shell']:,} Ir",
+                     baseline=f"{counts['live-qapplication']:,} Ir QApplication::notify, same batch", ratio=round(r, 4),
                      goal="≤ 1.02×", met=r <= 1.02))
+    r = counts["shell"] / counts["qapplication"]
+    rows.append(dict(measure="event guard, dispatch alone (a receiver that does nothing), instructions (information)",
+                     shell=f"{counts['shell']:,} Ir",
+                     baseline=f"{counts['qapplication']:,} Ir QApplication::notify, same batch", ratio=round(r, 4),
+                     goal="–", met=None))
 else:
     rows.append(dict(measure="event guard, instructions", shell="–", baseline="missing callgrind dumps (is valgrind installed?)",
                      ratio=None, goal="≤ 1.02×", met=False))

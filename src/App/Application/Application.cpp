@@ -242,16 +242,14 @@ bool unwindingIsUnsafe(const QObject& application)
     return thread == application.thread() && QApplication::activeModalWidget() != nullptr;
 }
 
-} // namespace
-
-bool Application::notify(QObject* receiver, QEvent* event)
+// Runs inside the catch of notify, so that the exception in flight can be inspected and rethrown.
+// Kept out of notify's body: its locals would otherwise make every event save and restore the
+// registers they need.
+[[gnu::cold, gnu::noinline]] void handleEventException(QObject* receiver, QEvent* event)
 {
+    const std::exception_ptr current = std::current_exception();
     try {
-        // Tested here, before any call, so that every other event costs one comparison.
-        const QEvent::Type type = event->type();
-        if (Q_UNLIKELY(type == QEvent::MouseButtonPress || type == QEvent::Shortcut))
-            LogUserAction(receiver, event);
-        return QApplication::notify(receiver, event);
+        std::rethrow_exception(current);
     } catch (const std::exception& exception) {
         // An exception that crosses nested event loops passes one notify frame per loop: the
         // innermost one, which knows the receiver, recorded it; the others only pass it on.
@@ -271,15 +269,44 @@ bool Application::notify(QObject* receiver, QEvent* event)
         Core::TrackCurrentException("Receiver: " + receiverClass + " \"" + receiverName +
                                     "\"; event: QEvent::" + (typeName ? typeName : ""));
         // Recorded already: the terminate handler adds no second record.
-        if (unwindingIsUnsafe(*this))
+        if (unwindingIsUnsafe(*QCoreApplication::instance()))
             std::terminate();
         throw;
     } catch (...) {
         // Not ours to log; the terminate handler records it, as it would at the end of main.
-        if (unwindingIsUnsafe(*this))
+        if (unwindingIsUnsafe(*QCoreApplication::instance()))
             std::terminate();
         throw;
     }
+}
+
+// QApplication's delivery inside the guard. The handler needs the receiver and the event, and
+// nothing else of the caller: all the frame keeps for it.
+inline bool guardedNotify(QApplication& application, QObject* receiver, QEvent* event)
+{
+    try {
+        return application.QApplication::notify(receiver, event);
+    } catch (...) {
+        handleEventException(receiver, event);
+        throw; // not reached: the handler rethrows or terminates
+    }
+}
+
+[[gnu::noinline]] bool notifyUserAction(QApplication& application, QObject* receiver, QEvent* event)
+{
+    LogUserAction(receiver, event);
+    return guardedNotify(application, receiver, event);
+}
+
+} // namespace
+
+bool Application::notify(QObject* receiver, QEvent* event)
+{
+    // Tested here, before any call, so that every other event costs one comparison.
+    const QEvent::Type type = event->type();
+    if (Q_UNLIKELY(type == QEvent::MouseButtonPress || type == QEvent::Shortcut))
+        return notifyUserAction(*this, receiver, event);
+    return guardedNotify(*this, receiver, event);
 }
 
 // ---------------------------------------------------------------------------------------------
