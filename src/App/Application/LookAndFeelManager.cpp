@@ -14,7 +14,6 @@
 #include <glog/logging.h>
 
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -31,8 +30,10 @@
 #include <QVariantMap>
 
 #include <cstring>
+#include <functional>
 #include <map>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace Ostrel::App {
@@ -66,6 +67,30 @@ std::list<std::string> subdirectoryNames(const QString& directory)
 // Known by its bytes: two themes' resources may carry different fonts under one path and size.
 // Qt gives a removed font's id to the next font added, so a cached id counts only while it still
 // names the families it was registered with.
+// What tells two font files apart: their size and a 64-bit hash of their bytes as stored (a
+// resource's compressed bytes where the resource system keeps them, a file's through a mapping),
+// so that no copy of the font is made for it. Fonts of two themes are not crafted to collide; a
+// cryptographic digest of a font cost as much as the rest of the start together. Null when the
+// file does not open.
+std::optional<QByteArray> fontKey(const QString& path)
+{
+    const auto key = [](const uchar* data, qint64 size, int compression) -> QByteArray {
+        const std::string_view bytes(reinterpret_cast<const char*>(data), size_t(size));
+        return QByteArray::number(size) + ':' + QByteArray::number(compression) + ':' +
+               QByteArray::number(quint64(std::hash<std::string_view>{}(bytes)));
+    };
+    const QResource resource(path);
+    if (resource.isValid() && resource.data())
+        return key(resource.data(), resource.size(), int(resource.compressionAlgorithm()));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    if (const uchar* mapped = file.map(0, file.size()))
+        return key(mapped, file.size(), 0);
+    const QByteArray bytes = file.readAll();
+    return key(reinterpret_cast<const uchar*>(bytes.constData()), bytes.size(), 0);
+}
+
 void addFontOnce(const QString& path)
 {
     struct Registered
@@ -74,18 +99,17 @@ void addFontOnce(const QString& path)
         QStringList families;
     };
     static QHash<QByteArray, Registered> registered;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    const std::optional<QByteArray> key = fontKey(path);
+    if (!key) {
         Util::FontDatabase::addApplicationFont(QStringToUtf8(path)); // logs the missing file
         return;
     }
-    const QByteArray key = QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha1);
-    const auto it = registered.constFind(key);
+    const auto it = registered.constFind(*key);
     if (it != registered.constEnd() && QFontDatabase::applicationFontFamilies(it->id) == it->families)
         return;
     const int id = Util::FontDatabase::addApplicationFont(QStringToUtf8(path));
     if (id >= 0)
-        registered.insert(key, {id, QFontDatabase::applicationFontFamilies(id)});
+        registered.insert(*key, {id, QFontDatabase::applicationFontFamilies(id)});
 }
 
 // The bytes of a file opened as text, or nothing when it does not open.
