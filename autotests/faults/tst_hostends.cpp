@@ -1,4 +1,7 @@
 #include "HostProcess.h"
+#include "UpdatePackage.h"
+
+#include <QSysInfo>
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -10,6 +13,42 @@ class TestHostEnds : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // A display that does not exist: anything that needed one would abort.
+    void helpAndVersionNeedNoDisplay_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("printed");
+        QTest::newRow("help") << QStringLiteral("--help") << QStringLiteral("--no-start-nag");
+        QTest::newRow("version") << QStringLiteral("--version") << QStringLiteral("Ostrel Host ");
+    }
+
+    void helpAndVersionNeedNoDisplay()
+    {
+        QFETCH(QString, option);
+        QFETCH(QString, printed);
+        QTemporaryDir dir;
+        HostProcess host(dir.filePath(QStringLiteral("home")), dir.filePath(QStringLiteral("run")));
+        host.addEnvironment(QStringLiteral("QT_QPA_PLATFORM=xcb"));
+        host.addEnvironment(QStringLiteral("DISPLAY=:2147"));
+        host.addEnvironment(QStringLiteral("WAYLAND_DISPLAY="));
+        host.start({option});
+        QVERIFY(host.waitForExit(30000));
+        QCOMPARE(host.exitCode(), 0);
+        QVERIFY2(host.standardOutput().contains(printed), qPrintable(host.standardOutput()));
+    }
+
+    // The link table names the Windows package; a Linux host asks for the Debian package of the
+    // processor it was built for.
+    void updateCheckAsksForThisSystemsPackage()
+    {
+        const QString arch = QSysInfo::buildCpuArchitecture();
+        const QString debian = arch == QLatin1String("x86_64") ? QStringLiteral("amd64")
+                               : arch == QLatin1String("arm")  ? QStringLiteral("armhf")
+                                                               : arch;
+        QCOMPARE(updatePackageUrl(QStringLiteral("https://updates.example/win/x86_64/latest?v=1")),
+                 QStringLiteral("https://updates.example/linux/%1/latest?v=1").arg(debian));
+    }
+
     // The test help is a modal box opened inside the start; nobody answers it offscreen.
     void theTestHelpPrintsAndEnds()
     {
