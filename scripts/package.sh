@@ -170,7 +170,8 @@ make_package libostrel-dev "$arch" libdevel \
  .
  This package holds the headers and the CMake package: find_package(Ostrel)
  gives the targets Ostrel::App and its siblings." \
-  usr/include/ostrel "$libdir/cmake/Ostrel" "${dev_links[@]}"
+  usr/include/ostrel "$libdir/cmake/Ostrel" "${dev_links[@]}" \
+  usr/share/doc/libostrel-dev/HOSTING.md usr/share/doc/libostrel-dev/examples
 
 make_package ostrel-host "$arch" x11 "libostrel-data (= $full_version)" \
   "sample host of the Ostrel application shell
