@@ -49,6 +49,7 @@
 #include <cstdio>
 #include <cstring>
 #include <ctime>
+#include <string>
 
 using namespace Ostrel;
 using namespace Ostrel::App;
@@ -194,7 +195,11 @@ int main(int argc, char** argv)
     // 1. Before any Qt object: the DPI policy.
     HighDpiFix();
 
-    // 2. The lifetime manager, then the application object.
+    // 2. The product's names, then the lifetime manager and the application object. The application
+    //    names its lock after the names as they stand here (without them, after the executable), so
+    //    that the product's other programs find it; the customization (step 3) names it the same.
+    QCoreApplication::setOrganizationName(QStringLiteral("Ostrel"));
+    QCoreApplication::setApplicationName(QStringLiteral("Ostrel Host"));
     const auto lifetime = std::make_shared<LifetimeManager>();
     Application app(argc, argv, lifetime);
     Util::InstallQtMessageRouting();
@@ -244,6 +249,8 @@ int main(int argc, char** argv)
     app.SetSplash(splash);
     stage("splash");
 
+    // The product's own lines of the banner, which setting the customization logs.
+    app.SetProductVersionLines({std::string("FFmpeg version: ") + OSTREL_FFMPEG_VERSION});
     app.SetCustomizationManager(customization);
     const auto tracker = std::make_shared<Tracking::GeneralOstrelTracker>();
     Tracking::ApplicationTrackerFactory::setApplicationTracker(tracker);

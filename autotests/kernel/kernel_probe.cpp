@@ -122,11 +122,13 @@ int instance(int argc, char** argv)
     return app.exec();
 }
 
-// Whether another locker of the application's lock (its name in argv[2]) gets it while an
-// Application lives, and once it is gone.
+// Whether another locker of the application's lock gets it while an Application of the product
+// "Probe Org"/argv[2] lives, and once it is gone; the locker is another program of the product.
 int appMutex(int argc, char** argv)
 {
-    const std::string name = argv[2];
+    QCoreApplication::setOrganizationName(QStringLiteral("Probe Org"));
+    QCoreApplication::setApplicationName(QString::fromUtf8(argv[2]));
+    const std::string name = App::Application::GetAppMutexName();
     {
         auto lifetime = std::make_shared<App::LifetimeManager>();
         App::Application app(argc, argv, lifetime);

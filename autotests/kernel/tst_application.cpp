@@ -5,7 +5,6 @@
 #include "App/Application/Application.h"
 #include "App/Application/ISplash.h"
 #include "App/Application/LifetimeManager.h"
-#include "App/Application/VersionLines.h"
 #include "Interfaces/ICustomizationManager.h"
 #include "Interfaces/IGateway.h"
 #include "Interfaces/ILaunchTypeProcessor.h"
@@ -21,6 +20,7 @@
 
 #include <QAction>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QShortcutEvent>
 
 #include <map>
@@ -111,20 +111,27 @@ private Q_SLOTS:
     void bannerIsLoggedInOrderEachTimeTheCustomizationChanges()
     {
         Test::LogCapture capture;
+        app().SetProductVersionLines({"FFmpeg version: probe", "Product commit: 0123abc"});
         const auto customization = std::make_shared<Test::FakeCustomization>();
         app().SetCustomizationManager(customization);
+        app().SetProductVersionLines({});
 
         QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("Links Probe"));
         QCOMPARE(QCoreApplication::organizationName(), QStringLiteral("Probe Org"));
         const auto lines = capture.texts();
-        QVERIFY2(lines.size() >= 5, std::to_string(lines.size()).c_str());
+        QVERIFY2(lines.size() >= 7, std::to_string(lines.size()).c_str());
         QCOMPARE(QString::fromStdString(lines[0]),
                  QStringLiteral("Application started from ") + QCoreApplication::applicationFilePath());
         QCOMPARE(QString::fromStdString(lines[1]),
                  QStringLiteral("Product Version: ") + QCoreApplication::applicationVersion());
-        QCOMPARE(lines[2], std::string("FFmpeg version: ffmpeg/7.1.1-3@ostrel/stable"));
-        QCOMPARE(lines[3], std::string("Build commit: 29116c6"));
-        QVERIFY2(lines[4].find('\n') != std::string::npos, lines[4].c_str()); // the hardware lines
+        QCOMPARE(lines[2], std::string("FFmpeg version: probe"));
+        QCOMPARE(lines[3], std::string("Product commit: 0123abc"));
+        QCOMPARE(lines[4], std::string("Shell version: " OSTREL_PROJECT_VERSION));
+        QVERIFY2(QRegularExpression(QStringLiteral("^Shell commit: ([0-9a-f]{12}|unknown)$"))
+                     .match(QString::fromStdString(lines[5]))
+                     .hasMatch(),
+                 lines[5].c_str());
+        QVERIFY2(lines[6].find('\n') != std::string::npos, lines[6].c_str()); // the hardware lines
 
         capture.clear();
         app().SetCustomizationManager(customization); // the same object: no reaction
@@ -140,6 +147,39 @@ private Q_SLOTS:
         app().SetCustomizationManager(std::make_shared<Test::FakeCustomization>());
         FLAGS_minloglevel = google::GLOG_INFO;
         QVERIFY(capture.texts().empty());
+    }
+
+    // Rows: two products' organization and application names, and whether their names are the same.
+    void appMutexNameIsTheProducts_data()
+    {
+        QTest::addColumn<QStringList>("product");
+        QTest::addColumn<QStringList>("other");
+        QTest::addColumn<bool>("same");
+        const auto names = [](const char* organization, const char* application) {
+            return QStringList{QString::fromUtf8(organization), QString::fromUtf8(application)};
+        };
+        QTest::newRow("same product") << names("Org", "Capture") << names("Org", "Capture") << true;
+        QTest::newRow("other application") << names("Org", "Capture") << names("Org", "Recorder") << false;
+        QTest::newRow("other organization") << names("Org", "Capture") << names("Other", "Capture") << false;
+        QTest::newRow("names split otherwise") << names("Org", "Capture") << names("OrgC", "apture") << false;
+    }
+
+    // Two products on one machine must not take each other for a second instance.
+    void appMutexNameIsTheProducts()
+    {
+        QFETCH(QStringList, product);
+        QFETCH(QStringList, other);
+        QFETCH(bool, same);
+
+        const QStringList before{QCoreApplication::organizationName(), QCoreApplication::applicationName()};
+        const auto nameFor = [](const QStringList& names) {
+            QCoreApplication::setOrganizationName(names[0]);
+            QCoreApplication::setApplicationName(names[1]);
+            return Application::GetAppMutexName();
+        };
+        const bool equal = nameFor(product) == nameFor(other);
+        nameFor(before);
+        QCOMPARE(equal, same);
     }
 
     void partnerOverrideIsUsedOnce_data()

@@ -101,10 +101,9 @@ private Q_SLOTS:
 
     void applicationHoldsItsLockUntilItIsGone()
     {
-        // The name other programs of the product (the installer) know it by.
-        const auto result =
-            ProbeRunner(QStringLiteral(KERNEL_PROBE))
-                .run({QStringLiteral("appmutex"), QStringLiteral("{3C1F7A92-5D08-4E6B-9A14-7E2B60D4C81F}")});
+        // Under the name other programs of the product (the installer) find with the same names.
+        const auto result = ProbeRunner(QStringLiteral(KERNEL_PROBE))
+                                .run({QStringLiteral("appmutex"), QStringLiteral("Probe App")});
         QVERIFY2(result.finished && result.exitCode == 0, qPrintable(result.standardError));
         QCOMPARE(result.value(QStringLiteral("lockedWhileAlive")), QStringLiteral("0"));
         QCOMPARE(result.value(QStringLiteral("lockedAfter")), QStringLiteral("1"));

@@ -41,8 +41,11 @@ int main(int argc, char** argv)
 {
     FLAGS_logtostderr = true;
     google::InitGoogleLogging(argv[0]);
-    // 1. Before any Qt object; 2. the lifetime manager, then the application.
+    // 1. Before any Qt object; 2. the product's names (its application mutex is named after them),
+    //    the lifetime manager, then the application.
     HighDpiFix();
+    QCoreApplication::setOrganizationName(QStringLiteral("Example Org"));
+    QCoreApplication::setApplicationName(QStringLiteral("Minimal Product"));
     const auto lifetime = std::make_shared<LifetimeManager>();
     Application app(argc, argv, lifetime);
     Testing testing(lifetime); // the shell's --test-* options, acting from here on

@@ -1,13 +1,14 @@
 #include "App/Application/Application.h"
 
+#include "App/Application/AppMutexName_p.h"
 #include "App/Application/ApplicationImpl_p.h"
 #include "App/Application/DirectCallGateway.h"
 #include "App/Application/NagScreen/NagRequestPolicy.h"
 #include "App/Application/ProductConstants.h"
 #include "App/Application/RequiredComponent.h"
+#include "App/Application/ShellVersionLines.h"
 #include "App/Application/SplashController_p.h"
 #include "App/Application/UserActionLog_p.h"
-#include "App/Application/VersionLines.h"
 #include "Core/LinksManager.h"
 #include "Events/NotNull.h"
 #include "Foundation/AppMutexLocker.h"
@@ -49,7 +50,6 @@
 namespace Ostrel::App {
 namespace {
 
-constexpr char ApplicationMutexName[] = "{3C1F7A92-5D08-4E6B-9A14-7E2B60D4C81F}";
 constexpr char InstallerMutexName[] = "{8E40B7D3-12AF-49C5-B6E7-0C93F5A1D726}";
 
 // How long CheckRunnedInstaller waits for the installer to let go of its mutex.
@@ -162,6 +162,11 @@ void Application::SetNagScreenManager(const std::shared_ptr<NagScreen::IManager>
     set<NagScreen::IManager>(manager);
 }
 
+void Application::SetProductVersionLines(const std::vector<std::string>& lines)
+{
+    d->productVersionLines = lines;
+}
+
 std::shared_ptr<ISplash> Application::GetSplash() const
 {
     return d->splashController ? d->splashController->splash() : nullptr;
@@ -227,6 +232,11 @@ bool Application::CheckRunnedInstaller()
             return false;
         QThread::msleep(1);
     }
+}
+
+std::string Application::GetAppMutexName()
+{
+    return AppMutexNameFor(QCoreApplication::organizationName(), QCoreApplication::applicationName());
 }
 
 namespace {
@@ -319,7 +329,7 @@ Application::Impl::Impl(Application& app, const std::shared_ptr<ILifetimeManager
     const Core::NotNull<std::shared_ptr<ILifetimeManager>> lifetime(lifetimeManager);
 
     if (!mutexDisabled)
-        appMutexLocker = std::make_unique<Util::AppMutexLocker>(ApplicationMutexName);
+        appMutexLocker = std::make_unique<Util::AppMutexLocker>(GetAppMutexName());
     splashController = new SplashController(&application, *lifetime.get(), nullptr);
     linksManagerSetter = std::make_shared<LinksManagerSetter>();
     // A second instance is deliberately not refused here: the product decides that elsewhere.
@@ -360,7 +370,9 @@ void Application::Impl::onComponentChanged(const std::shared_ptr<ICustomizationM
         return;
     LOG(INFO) << "Application started from " << Util::QStringToUtf8(QCoreApplication::applicationFilePath());
     LOG(INFO) << "Product Version: " << Util::QStringToUtf8(QCoreApplication::applicationVersion());
-    for (const std::string& line : VersionLines())
+    for (const std::string& line : productVersionLines)
+        LOG(INFO) << line;
+    for (const std::string& line : ShellVersionLines())
         LOG(INFO) << line;
     if (FLAGS_v >= 1)
         LOG(INFO) << "Verbose logging enabled. Level=" << FLAGS_v;

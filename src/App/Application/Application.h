@@ -8,6 +8,8 @@
 #include <QApplication>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace Ostrel::App {
 
@@ -44,7 +46,8 @@ public:
 
     using LinksManagerSetter = Core::ComponentSetter<ILinksManager, std::shared_ptr<ILinksManager>>;
 
-    /// Takes the application mutex; a second instance is not refused.
+    /// Takes the application mutex (GetAppMutexName, for the names as they stand now); a second
+    /// instance is not refused.
     Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager);
     Application(int& argc, char** argv, const std::shared_ptr<ILifetimeManager>& lifetimeManager,
                 DisableAppMutexT);
@@ -67,6 +70,12 @@ public:
     void SetLookAndFeel(const std::shared_ptr<ILookAndFeelManager>& manager);
     void SetNagScreenManager(const std::shared_ptr<NagScreen::IManager>& manager);
 
+    /// The product's own lines of the start banner (the libraries it bundles, its own commit, ...),
+    /// UTF-8, one a line; none unless set. The banner logs them in this order after "Product
+    /// Version: " and before the shell's own lines (ShellVersionLines.h). It is written when the
+    /// customization manager is set: set the lines before; lines set later wait for the next banner.
+    void SetProductVersionLines(const std::vector<std::string>& lines);
+
     /// The splash, until the start has deleted its controller; null afterwards.
     std::shared_ptr<ISplash> GetSplash() const;
     /// Does nothing after the start.
@@ -88,6 +97,14 @@ public:
     /// Whether the product's installer is running. Waits up to half a second for it to let go of
     /// its mutex; needs no application object.
     static bool CheckRunnedInstaller();
+
+    /// The name of the application mutex for the organization and application names that
+    /// QCoreApplication holds now. Another program of the product (its installer) sets the same names
+    /// and tries a Util::AppMutexLocker of it to learn whether the application runs. Products differ
+    /// by their names; on Windows all have the one name their installers have always known. The
+    /// application takes the name when it is constructed: set the names before, or the application
+    /// name is the executable's.
+    static std::string GetAppMutexName();
 
 protected:
     bool notify(QObject* receiver, QEvent* event) override;

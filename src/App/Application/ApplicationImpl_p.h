@@ -8,6 +8,8 @@
 
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace Ostrel::Util {
 class AppMutexLocker;
@@ -47,6 +49,7 @@ public:
     SplashController* splashController = nullptr;
     QString pendingNagUrl;
     std::shared_ptr<LinksManagerSetter> linksManagerSetter;
+    std::vector<std::string> productVersionLines;
 
 private:
     void onStart();
