@@ -204,4 +204,18 @@ for deb in "$out"/*.deb; do
   echo "lintian $name: ${found:-no error, no warning}"
 done
 [ $status -eq 0 ] || echo "$report" >&2
+
+# What a desktop reads of the host: its menu entry and its AppStream description, checked by the
+# tools a distribution's own checks use.
+host_root=$work/pkg/ostrel-host/usr/share
+if desktop-file-validate "$host_root"/applications/*.desktop; then
+  echo "desktop-file-validate ostrel-host: valid"
+else
+  status=1
+fi
+if appstreamcli validate --no-net --pedantic "$host_root"/metainfo/*.metainfo.xml; then
+  echo "appstreamcli validate ostrel-host: valid"
+else
+  status=1
+fi
 exit $status
