@@ -40,10 +40,10 @@ class TestUrlHandler : public QObject
     // The offscreen platform has no browser of its own and says so.
     static void expectSystemBrowser(const char* url)
     {
-        QTest::ignoreMessage(
+        Test::ignoreMessage(
             QtWarningMsg,
-            qPrintable(QStringLiteral("This plugin does not support QPlatformServices::openUrl() for '%1'.")
-                           .arg(QLatin1String(url))));
+            QStringLiteral("This plugin does not support QPlatformServices::openUrl() for '%1'.")
+                .arg(QLatin1String(url)));
     }
 
     // The argument lists the stub got so far, waiting for `count` of them.

@@ -14,6 +14,34 @@ namespace {
 QtMessageHandler previousHandler = nullptr;
 bool warningsFail = false;
 
+// The warnings a test function announced with Test::ignoreMessage, each taken off when it comes.
+struct Expected
+{
+    QtMsgType type;
+    QString text;
+    QRegularExpression pattern;
+};
+QList<Expected>& expectedMessages()
+{
+    static QList<Expected> expected;
+    return expected;
+}
+
+bool takeExpected(QtMsgType type, const QString& message)
+{
+    QList<Expected>& expected = expectedMessages();
+    for (int i = 0; i < expected.size(); ++i) {
+        const Expected& entry = expected.at(i);
+        const bool matches = entry.pattern.pattern().isEmpty() ? entry.text == message
+                                                               : entry.pattern.match(message).hasMatch();
+        if (entry.type == type && matches) {
+            expected.removeAt(i);
+            return true;
+        }
+    }
+    return false;
+}
+
 // What the offscreen platform says about features it lacks: noise, not a fault of the code.
 bool isPlatformNoise(const QString& message)
 {
@@ -27,8 +55,9 @@ void guardMessage(QtMsgType type, const QMessageLogContext& context, const QStri
 {
     if (isPlatformNoise(message))
         return;
+    const bool expected = takeExpected(type, message);
     previousHandler(type, context, message);
-    if (warningsFail && (type == QtWarningMsg || type == QtCriticalMsg))
+    if (warningsFail && !expected && (type == QtWarningMsg || type == QtCriticalMsg))
         QTest::qFail(qPrintable(QStringLiteral("Unexpected Qt warning: ") + message),
                      context.file ? context.file : "", context.line);
 }
@@ -53,6 +82,18 @@ void setUpTestProcess(const char* argv0, bool qtWarningsFail)
     FLAGS_minloglevel = google::GLOG_INFO;
     if (!google::IsGoogleLoggingInitialized())
         google::InitGoogleLogging(argv0);
+}
+
+void ignoreMessage(QtMsgType type, const QString& message)
+{
+    expectedMessages().append({type, message, QRegularExpression()});
+    QTest::ignoreMessage(type, qPrintable(message));
+}
+
+void ignoreMessage(QtMsgType type, const QRegularExpression& pattern)
+{
+    expectedMessages().append({type, QString(), pattern});
+    QTest::ignoreMessage(type, pattern);
 }
 
 int exec(QObject* test, int argc, char** argv)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRegularExpression>
 #include <QtTest>
 
 // Set per test target by ostrel_add_qtest: 0 for a test that provokes Qt warnings on purpose.
@@ -20,6 +21,12 @@ inline void initTestEnvironment(const char* argv0)
 {
     setUpTestProcess(argv0, OSTREL_QT_WARNINGS_FAIL != 0);
 }
+
+/// QTest::ignoreMessage that the warning guard honours too: a test that provokes a Qt warning on
+/// purpose names it, QtTest fails the function if it does not come, and any other warning still
+/// fails it. Each call expects one message.
+void ignoreMessage(QtMsgType type, const QString& message);
+void ignoreMessage(QtMsgType type, const QRegularExpression& pattern);
 
 /// Runs a QtTest object like QTest::qExec, with a guard on Qt's messages: messages that the
 /// offscreen platform prints for lack of features are dropped, and unexpected warnings fail
