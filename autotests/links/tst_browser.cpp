@@ -257,19 +257,47 @@ private slots:
         QCOMPARE(tracker->events().size(), size_t(2));
     }
 
-    void userAgents()
+    // Each browser the reports know, by the code and user agent written down in browsers.tsv.
+    void everyKnownBrowser_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("agent");
+        QFile table(QStringLiteral(OSTREL_BROWSER_TABLE));
+        QVERIFY(table.open(QIODevice::ReadOnly | QIODevice::Text));
+        while (!table.atEnd()) {
+            const QString line = QString::fromUtf8(table.readLine()).chopped(1);
+            if (line.startsWith(QLatin1Char('#')))
+                continue;
+            const QStringList fields = line.split(QLatin1Char('\t'));
+            QCOMPARE(fields.size(), 3);
+            QTest::newRow(qPrintable(fields[0])) << fields[0] << fields[1] << fields[2];
+        }
+    }
+
+    void everyKnownBrowser()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, code);
+        QFETCH(QString, agent);
+        registry->registerBrowser(UserClients, QStringLiteral("B"),
+                                  executable(QStringLiteral("reg/") + name));
+        Browser preferred(settings, registry);
+        preferred.Init({QStringLiteral("en"), name, QString()});
+        QCOMPARE(QString::fromStdString(tracker->events().front().params.at("WI_PREFERRED_BROWSER")), code);
+        QCOMPARE(preferred.UserAgent(), agent);
+    }
+
+    // A browser the reports do not know, or none, is given the agent of "browser.exe".
+    void unknownBrowsersTakeTheDefaultAgent()
     {
         Browser preferred(nullptr, registry);
-        const QString yandex =
-            QStringLiteral("Mozilla/5.0 (Windows NT 6.1; WOW64) AppleWebKit/537.36 (KHTML, like Gecko) "
-                           "Chrome/30.0.1599.12785 YaBrowser/13.12.1599.12785 Safari/537.36");
-        QCOMPARE(preferred.UserAgent(), yandex);
-        preferred.Init({QString(), QString(), executable(QStringLiteral("x/firefox.exe"))});
-        QVERIFY(preferred.UserAgent().endsWith(QLatin1String("Firefox/40.1")));
+        const QString fallback = preferred.UserAgent();
+        QVERIFY(fallback.contains(QLatin1String("YaBrowser")));
         preferred.Init({QString(), QString(), executable(QStringLiteral("x/vivaldi.exe"))});
-        QCOMPARE(preferred.UserAgent(), yandex);
+        QCOMPARE(preferred.UserAgent(), fallback);
         preferred.Init({QString(), QString(), executable(QStringLiteral("x/Chrome.exe"))});
-        QCOMPARE(preferred.UserAgent(), yandex);
+        QCOMPARE(preferred.UserAgent(), fallback);
     }
 
     void withoutCallbackNothingIsSearched()
