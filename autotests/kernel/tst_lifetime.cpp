@@ -42,9 +42,15 @@ public:
         if (m_veto)
             cancel();
     }
-    void onQuit() override { *m_journal << m_name + QStringLiteral(":quit"); }
+    void onQuit() override
+    {
+        *m_journal << m_name + QStringLiteral(":quit");
+        if (whileQuitting)
+            whileQuitting();
+    }
 
     std::function<void()> whileStarting;
+    std::function<void()> whileQuitting;
 
 private:
     QStringList* m_journal;
@@ -67,6 +73,9 @@ private Q_SLOTS:
         manager.RegisterEventHandler(&observer);
         manager.addOnStartCallback([&]() { journal << QStringLiteral("callback2"); });
         manager.addOnStartCallback(nullptr); // registers nothing
+        // What a callback holds is let go once the start has run it.
+        const auto held = std::make_shared<int>(0);
+        manager.addOnStartCallback([held]() {});
         observer.whileStarting = [&]() {
             QVERIFY(manager.isStarted());
             // Added while the start is being told: it never runs.
@@ -78,6 +87,7 @@ private Q_SLOTS:
         manager.start();
         QCOMPARE(journal, (QStringList{QStringLiteral("callback1"), QStringLiteral("observer:start"),
                                        QStringLiteral("callback2")}));
+        QCOMPARE(held.use_count(), 1L);
 
         // One added after the start stays registered but never runs either.
         manager.addOnStartCallback([&]() { journal << QStringLiteral("after"); });
@@ -115,7 +125,10 @@ private Q_SLOTS:
 
         journal.clear();
         manager.UnregisterEventHandler(&vetoer);
+        bool quittingWhenTold = false;
+        other.whileQuitting = [&]() { quittingWhenTold = manager.isQuitting(); };
         QVERIFY(manager.tryToQuit());
+        QVERIFY(quittingWhenTold);
         QCOMPARE(journal, (QStringList{QStringLiteral("other:asked"), QStringLiteral("other:quit")}));
         QVERIFY(manager.isQuitting());
         QCOMPARE(manager.quits, 1);
