@@ -132,6 +132,8 @@ private Q_SLOTS:
                      .hasMatch(),
                  lines[5].c_str());
         QVERIFY2(lines[6].find('\n') != std::string::npos, lines[6].c_str()); // the hardware lines
+        for (const auto& line : capture.lines())
+            QVERIFY2(line.severity == google::GLOG_INFO, line.text.c_str());
 
         capture.clear();
         app().SetCustomizationManager(customization); // the same object: no reaction

@@ -78,6 +78,7 @@ private Q_SLOTS:
         const QString& log = result.standardError;
         const int header = log.indexOf(QLatin1String("Exception has been caught in event processing\n"));
         QVERIFY2(header >= 0, qPrintable(log));
+        QCOMPARE(log.at(log.lastIndexOf(QLatin1Char('\n'), header) + 1), QLatin1Char('E')); // an ERROR
         const QString details = log.mid(header);
         QVERIFY2(details.contains(QLatin1String("\n\tReceiver: ")), qPrintable(details));
         QVERIFY(details.contains(
