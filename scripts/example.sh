@@ -43,6 +43,17 @@ fi
 test -f "$work/product/resources/locales/de_DE/ostrel_de_DE.qm"
 timeout 60 "$work/product/minimal-product" --show-nag --quit-after=3000
 echo "example: minimal-product built and ran against $prefix"
+# Installed by the rules HOSTING.md gives: the link on PATH and the resource tree beside the
+# resolved executable, through its link into share/.
+rm -rf "$work/stage"
+DESTDIR=$work/stage cmake --install "$work/product" --prefix /usr >/dev/null
+test -f "$work/stage/usr/lib/minimal-product/resources/locales/de_DE/ostrel_de_DE.qm"
+timeout 60 "$work/stage/usr/bin/minimal-product" --quit-after=500 2>"$work/installed.err"
+if grep -q "resource tree is missing" "$work/installed.err"; then
+  echo "example: the installed minimal-product did not find its resources" >&2
+  exit 1
+fi
+echo "example: minimal-product installed and ran from $work/stage/usr/bin"
 dpkg -x "$work"/packages/ostrel-host_*.deb "$work/root"
 # Launch type 4: nobody in front of the program, so no page opens and nothing asks.
 timeout 60 "$prefix/bin/ostrel-host" --quit-after=1500 --no-start-nag --launch-type=4 >/dev/null 2>"$work/host.err"

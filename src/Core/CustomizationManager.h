@@ -25,9 +25,9 @@ namespace Ostrel::App {
 /// true/false/1/0. Values holding ',' or ';' (the user agent) must be quoted in the file.
 /// The groups [Hosts] and [Links] (endpoint hosts and link templates, see LinksManager) are read
 /// through GetCustomValue("Hosts/links") and the like, layered the same way.
-/// A missing, unreadable or broken file leaves the earlier layers in place with one WARNING line
-/// naming it; keys a file lacks come from the earlier layers without a word. Everything is read
-/// once, in the constructor.
+/// A missing file leaves the earlier layers in place with one INFO line naming it (most
+/// installations carry none), an unreadable or broken one with one WARNING line; keys a file
+/// lacks come from the earlier layers without a word. Everything is read once, in the constructor.
 class OSTREL_CORE_EXPORT CustomizationManager : public ICustomizationManager
 {
 public:
