@@ -8,6 +8,7 @@
 #include "MemorySettings.h"
 #include "RecordingTracker.h"
 #include "TestEnvironment.h"
+#include "TestFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -263,13 +264,9 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("code");
         QTest::addColumn<QString>("agent");
-        QFile table(QStringLiteral(OSTREL_BROWSER_TABLE));
-        QVERIFY(table.open(QIODevice::ReadOnly | QIODevice::Text));
-        while (!table.atEnd()) {
-            const QString line = QString::fromUtf8(table.readLine()).chopped(1);
-            if (line.startsWith(QLatin1Char('#')))
-                continue;
-            const QStringList fields = line.split(QLatin1Char('\t'));
+        const QList<QStringList> rows = Test::readTable(QStringLiteral(OSTREL_BROWSER_TABLE));
+        QVERIFY(!rows.isEmpty());
+        for (const QStringList& fields : rows) {
             QCOMPARE(fields.size(), 3);
             QTest::newRow(qPrintable(fields[0])) << fields[0] << fields[1] << fields[2];
         }

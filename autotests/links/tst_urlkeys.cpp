@@ -4,9 +4,9 @@
 #include "Interfaces/URLKeys.h"
 
 #include "TestEnvironment.h"
+#include "TestFiles.h"
 
-#include <QFile>
-
+using namespace Ostrel;
 using namespace Ostrel::App;
 
 class TestUrlKeys : public QObject
@@ -18,21 +18,15 @@ private slots:
         QTest::addColumn<int>("number");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("expected");
-        QFile table(QStringLiteral(OSTREL_URL_TABLE));
-        QVERIFY(table.open(QIODevice::ReadOnly | QIODevice::Text));
-        int rows = 0;
-        while (!table.atEnd()) {
-            const QString line = QString::fromUtf8(table.readLine()).chopped(1);
-            if (line.startsWith(QLatin1Char('#')))
-                continue;
-            const QStringList fields = line.split(QLatin1Char('\t'));
+        const QList<QStringList> rows = Test::readTable(QStringLiteral(OSTREL_URL_TABLE));
+        QVERIFY(!rows.isEmpty());
+        for (const QStringList& fields : rows) {
             QCOMPARE(fields.size(), 3);
             QTest::newRow(qPrintable(fields[1])) << fields[0].toInt() << fields[1] << fields[2];
-            ++rows;
         }
         // The library holds no key and no template that the table lacks.
-        QCOMPARE(size_t(rows), UrlKeyNames.size());
-        QCOMPARE(size_t(rows), UrlTemplates.size());
+        QCOMPARE(size_t(rows.size()), UrlKeyNames.size());
+        QCOMPARE(size_t(rows.size()), UrlTemplates.size());
     }
 
     void everyKeyAsWrittenDown()

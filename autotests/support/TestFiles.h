@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QString>
+#include <QStringList>
 
 namespace Ostrel::Test {
 
@@ -21,6 +22,18 @@ inline bool writeFile(const QString& path, const QByteArray& bytes)
     QDir().mkpath(QFileInfo(path).absolutePath());
     QFile file(path);
     return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
+}
+
+/// The rows of a tab-separated table written out for a test: one list of fields a line, lines
+/// that begin with "#" left out. Empty when the file cannot be read.
+inline QList<QStringList> readTable(const QString& path)
+{
+    QList<QStringList> rows;
+    for (const QString& line : QString::fromUtf8(readFile(path)).split(QLatin1Char('\n'))) {
+        if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')))
+            rows << line.split(QLatin1Char('\t'));
+    }
+    return rows;
 }
 
 } // namespace Ostrel::Test
