@@ -15,51 +15,26 @@ build=${BUILD_DIR:-$root/build}
 host=$build/bin/ostrel-host
 out=$build/scales
 [ -x "$host" ] || { echo "scales: $host is not built (scripts/build.sh)" >&2; exit 2; }
-for tool in Xvfb openbox xdotool import; do
-  command -v "$tool" >/dev/null || { echo "scales: $tool is missing (scripts/bootstrap.sh)" >&2; exit 2; }
-done
-
-display=${SCALES_DISPLAY:-}
-if [ -z "$display" ]; then
-  display=90
-  while [ -e "/tmp/.X11-unix/X$display" ] || [ -e "/tmp/.X$display-lock" ]; do display=$((display + 1)); done
-fi
-export DISPLAY=:$display
-work=$(mktemp -d /tmp/scales.XXXXXX)
-pids=()
-cleanup() {
-  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null; done
-  rm -rf "$work"
-}
-trap cleanup EXIT
 rm -rf "$out"
 mkdir -p "$out"
-# Room for the main window at 200 %.
-Xvfb ":$display" -screen 0 2560x1600x24 -nolisten tcp >"$work/xvfb.log" 2>&1 &
-pids+=($!)
-for _ in $(seq 50); do xdotool getmouselocation >/dev/null 2>&1 && break; sleep 0.1; done
-openbox >"$work/openbox.log" 2>&1 &
-pids+=($!)
-sleep 1
+source "$root/scripts/xdisplay.sh"
+x_session scales "${SCALES_DISPLAY:-}" 2560x1600x24 # room for the main window at 200 %
 export QT_QPA_PLATFORM=xcb BROWSER=/bin/true LANG=C.UTF-8
 unset LC_ALL
 
 failures=0
 windows() { xdotool search --onlyvisible --pid "$hostpid" 2>/dev/null | sort; }
-# wait_more N: until the host shows more than N windows.
-wait_more() {
-  for _ in $(seq 150); do
-    [ "$(windows | wc -l)" -gt "$1" ] && return 0
-    sleep 0.1
-  done
-  return 1
-}
 newest() { comm -13 <(printf '%s\n' "$@" | sort) <(windows) | tail -n 1; }
-# shot NAME ID: the window's picture; the window is left as it is.
+# shot NAME ID: the window's picture, once it has painted; the window is left as it is.
 shot() {
   [ -n "$2" ] || return 1 # without a window, import would wait for a click
-  sleep 0.8 # the nag's fade-in
-  import -window "$2" "$out/$prefix-$1.png" 2>/dev/null && echo "scales: $out/$prefix-$1.png"
+  local try
+  for try in 1 2 3; do
+    sleep 1.2 # mapped is not yet painted; a nag fades in
+    import -window "$2" "$out/$prefix-$1.png" 2>/dev/null && { echo "scales: $out/$prefix-$1.png"; return 0; }
+  done
+  echo "scales: $prefix: no picture of $1" >&2
+  failures=$((failures + 1))
 }
 close() {
   xdotool windowactivate --sync "$1" >/dev/null 2>&1
@@ -78,10 +53,15 @@ for locale in ${SCALES_LOCALES:-en_US ja_JP ru_RU de_DE}; do
     hostpid=$!
     pids+=($hostpid)
     # The usage statistics question first, then the welcome nag (app_start) once it is answered.
-    # (The splash bears the main window's name.)
+    # The question is the window named neither as the host nor as its splash (the program's name).
     question=
     for _ in $(seq 300); do
-      question=$(newest $(xdotool search --onlyvisible --pid "$hostpid" --name '^Ostrel Host$' 2>/dev/null))
+      for window in $(windows); do
+        case "$(xdotool getwindowname "$window" 2>/dev/null)" in
+        '' | 'Ostrel Host' | 'ostrel-host') ;;
+        *) question=$window ;;
+        esac
+      done
       [ -n "$question" ] && break
       sleep 0.1
     done
@@ -92,14 +72,19 @@ for locale in ${SCALES_LOCALES:-en_US ja_JP ru_RU de_DE}; do
       continue
     fi
     shot question "$question"
+    base=$(xdotool search --all --onlyvisible --pid "$hostpid" --name '^Ostrel Host$' 2>/dev/null)
     close "$question"
-    shown=$(windows)
     for nag in app_start app_close before_routine; do
       if [ "$nag" != app_start ]; then
         "$host" --open-nag="qrc:/NagScreen/$nag/main.qml" >>"$work/$prefix.out" 2>&1
       fi
-      if wait_more 1; then
-        window=$(newest $shown)
+      window=
+      for _ in $(seq 150); do
+        window=$(newest $base $question)
+        [ -n "$window" ] && break
+        sleep 0.1
+      done
+      if [ -n "$window" ]; then
         shot "$nag" "$window"
         close "$window"
       else
@@ -107,7 +92,7 @@ for locale in ${SCALES_LOCALES:-en_US ja_JP ru_RU de_DE}; do
         failures=$((failures + 1))
       fi
     done
-    main=$(xdotool search --onlyvisible --pid "$hostpid" --name '^Ostrel Host$' 2>/dev/null | tail -n 1)
+    main=$(xdotool search --all --onlyvisible --pid "$hostpid" --name '^Ostrel Host$' 2>/dev/null | tail -n 1)
     shot main "$main"
     kill "$hostpid"
     wait "$hostpid" 2>/dev/null
