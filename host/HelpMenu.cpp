@@ -39,8 +39,13 @@ QDialog* makeLinksWindow(Application& application, QWidget* parent)
     auto* layout = new QVBoxLayout(window);
     auto* filter = new QLineEdit(window);
     filter->setObjectName(QStringLiteral("linksFilter"));
+    // A placeholder is no name to a screen reader, nor is the clear button's icon: both are named.
     filter->setPlaceholderText(QCoreApplication::translate("HelpMenu", "Filter"));
+    filter->setAccessibleName(filter->placeholderText());
     filter->setClearButtonEnabled(true);
+    // The clear button shows the one action the line edit made for it, and reads its text.
+    if (auto* clear = filter->findChild<QAction*>(QString(), Qt::FindDirectChildrenOnly))
+        clear->setText(QCoreApplication::translate("HelpMenu", "Clear"));
     layout->addWidget(filter);
     auto* panel = new LinksPanel([&application](URLKeys key) { openLink(application, key); },
                                  [&application](URLKeys key) {

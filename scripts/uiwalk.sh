@@ -19,33 +19,10 @@ if [ ! -x "$host" ]; then
   echo "uiwalk: $host is not built (scripts/build.sh)" >&2
   exit 2
 fi
-for tool in Xvfb openbox xdotool import; do
-  command -v "$tool" >/dev/null || { echo "uiwalk: $tool is missing (scripts/bootstrap.sh)" >&2; exit 2; }
-done
-
-display=${UIWALK_DISPLAY:-}
-if [ -z "$display" ]; then
-  display=90
-  while [ -e "/tmp/.X11-unix/X$display" ] || [ -e "/tmp/.X$display-lock" ]; do display=$((display + 1)); done
-fi
-export DISPLAY=:$display
-
-work=$(mktemp -d /tmp/uiwalk.XXXXXX)
-pids=()
-cleanup() {
-  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null; done
-  rm -rf "$work"
-}
-trap cleanup EXIT
-
 rm -rf "$out"
 mkdir -p "$out"
-Xvfb ":$display" -screen 0 1280x800x24 -nolisten tcp >"$work/xvfb.log" 2>&1 &
-pids+=($!)
-for _ in $(seq 50); do xdotool getmouselocation >/dev/null 2>&1 && break; sleep 0.1; done
-openbox >"$work/openbox.log" 2>&1 &
-pids+=($!)
-sleep 1
+source "$root/scripts/xdisplay.sh"
+x_session uiwalk "${UIWALK_DISPLAY:-}" 1280x800x24
 
 # A user of its own: settings, lock, socket and log stay in this walk.
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_DATA_HOME=$work/home/.local/share

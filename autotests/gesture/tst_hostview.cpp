@@ -1,10 +1,17 @@
-// The sample host's touch wiring on its own scrollable view: a finger drags the links list.
+// The sample host's own windows: a finger drags the links list, and a screen reader finds a role
+// and a name on every control of the main window, its menus, All Links and the About box.
 
 #include "GestureWiring.h"
 #include "LinksPanel.h"
+#include "MainWindow.h"
 
-#include "TestEnvironment.h"
+#include "AccessibleTree.h"
+#include "FakeLinks.h"
+#include "NoQuitLifetime.h"
 
+#include <QAction>
+#include <QDialog>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -13,6 +20,8 @@ using namespace Ostrel::App;
 class TestHostView : public QObject
 {
     Q_OBJECT
+public:
+    explicit TestHostView(const std::shared_ptr<Ostrel::Test::NoQuitLifetime>&) {}
 
 private slots:
     void touchPanScrollsTheLinks()
@@ -39,7 +48,40 @@ private slots:
         QVERIFY(panel->verticalScrollBar()->value() > 0);
         QVERIFY(panel->itemAt(4, 4) != firstShown);
     }
+
+    void hostWindowsNameEveryControl()
+    {
+        Ostrel::Test::app().SetLinksManager(std::make_shared<Ostrel::Test::FakeLinks>());
+        MainWindow window(Ostrel::Test::app());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        // All Links and About, opened from the Help menu as a user opens them.
+        for (const char* entry : {"allLinks_action", "about_action"})
+            window.findChild<QAction*>(QString::fromLatin1(entry))->trigger();
+        const QList<QDialog*> opened = window.findChildren<QDialog*>();
+        QCOMPARE(opened.size(), 2);
+        for (QDialog* dialog : opened)
+            QVERIFY(QTest::qWaitForWindowExposed(dialog));
+
+        // The whole menu bar, each menu with its entries, is in the main window's tree.
+        QList<QAccessibleInterface*> nodes;
+        Ostrel::Test::accessibleNodes(QAccessible::queryAccessibleInterface(&window), nodes);
+        const auto entries = std::count_if(nodes.begin(), nodes.end(), [](QAccessibleInterface* node) {
+            return node->role() == QAccessible::MenuItem;
+        });
+        QVERIFY2(entries >= 2 * window.menuBar()->actions().size(), qPrintable(QString::number(entries)));
+        QList<QWidget*> windows{&window};
+        for (QDialog* dialog : opened)
+            windows << dialog;
+        for (QWidget* shown : windows) {
+            const QStringList silent = Ostrel::Test::silentControls(shown);
+            QVERIFY2(silent.isEmpty(), qPrintable(silent.join(QStringLiteral("; "))));
+        }
+    }
 };
 
-OSTREL_TEST_MAIN(TestHostView)
+int main(int argc, char** argv)
+{
+    return Ostrel::Test::execInApplication<TestHostView>(argc, argv);
+}
 #include "tst_hostview.moc"

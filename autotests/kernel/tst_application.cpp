@@ -13,6 +13,7 @@
 #include "Interfaces/LifetimeObserver.h"
 
 #include "FakeCustomization.h"
+#include "FakeLinks.h"
 #include "LogCapture.h"
 #include "MemorySettings.h"
 #include "NoQuitLifetime.h"
@@ -51,15 +52,7 @@ public:
     int dismissals = 0;
 };
 
-class Links : public ILinksManager
-{
-public:
-    QString GetUrl(const QString&) const override { return {}; }
-    QString GetUrl(URLKeys) const override { return {}; }
-    QString GenerateUrl(const QString& url, QMap<QString, QString>) const override { return url; }
-    void OpenUrl(const QString&) const override {}
-    void OpenUrl(URLKeys) const override {}
-};
+using Links = Ostrel::Test::FakeLinks;
 
 class SetterListener : public Core::ComponentSetterObserver
 {

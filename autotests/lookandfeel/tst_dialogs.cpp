@@ -8,6 +8,7 @@
 #include "Core/ApplicationSettingsManager.h"
 #include "Interfaces/ICustomizationManager.h"
 
+#include "AccessibleTree.h"
 #include "FakeCustomization.h"
 #include "ProbeRunner.h"
 #include "TestEnvironment.h"
@@ -265,6 +266,9 @@ private slots:
             QCOMPARE(box->objectName(), QStringLiteral("requestAppStoreStatistics"));
             QCOMPARE(box->defaultButton(), box->button(QMessageBox::Cancel));
             text = box->text();
+            // A screen reader reads it as a named alert whose buttons tell what they do.
+            const QStringList silent = Test::silentControls(box);
+            QVERIFY2(silent.isEmpty(), qPrintable(silent.join(QStringLiteral("; "))));
             if (action == QLatin1String("agree"))
                 QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
             else if (action == QLatin1String("disagree"))

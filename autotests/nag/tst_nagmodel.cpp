@@ -11,6 +11,7 @@
 #include "Nag/NagManager.h"
 #include "Nag/QuickContent.h"
 
+#include "AccessibleTree.h"
 #include "Contrast.h"
 #include "MemorySettings.h"
 #include "NagModelData.h"
@@ -36,6 +37,7 @@ using namespace Ostrel::App::NagScreen;
 namespace {
 
 using MemorySettings = Ostrel::Test::MemoryProductSettings;
+using Ostrel::Test::accessibleNodes;
 
 // How many of a fingerprint's bits may differ from the published one before a test calls the nag
 // changed: the antialiased edges of a few glyphs may fall either side of a neighbour's grey on
@@ -109,16 +111,6 @@ std::unique_ptr<QuickContent> loadShipped(const QString& folder, const QString& 
 QQuickItem* rootItem(const AbstractContent& content)
 {
     return qobject_cast<QQuickWidget*>(content.GetUi())->rootObject();
-}
-
-// Every node a screen reader reaches from `node`, depth first, so in reading order.
-void accessibleNodes(QAccessibleInterface* node, QList<QAccessibleInterface*>& nodes)
-{
-    nodes << node;
-    for (int i = 0; i < node->childCount(); ++i) {
-        if (QAccessibleInterface* child = node->child(i))
-            accessibleNodes(child, nodes);
-    }
 }
 
 // The nodes a user presses, in reading order.

@@ -54,6 +54,10 @@
         <translation>Filtern</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>C&amp;ommunity-Forum</translation>
     </message>

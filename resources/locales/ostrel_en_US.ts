@@ -54,6 +54,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>Community F&amp;orum</translation>
     </message>

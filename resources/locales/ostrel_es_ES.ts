@@ -54,6 +54,10 @@
         <translation>Filtrar</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>&amp;Foro de la comunidad</translation>
     </message>

@@ -54,6 +54,10 @@
         <translation>Filtrer</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>&amp;Forum de la communauté</translation>
     </message>

@@ -54,6 +54,10 @@
         <translation>Filtra</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>&amp;Forum della community</translation>
     </message>

@@ -54,6 +54,10 @@
         <translation>フィルター</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>コミュニティ フォーラム(&amp;O)</translation>
     </message>

@@ -54,6 +54,10 @@
         <translation>필터</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>커뮤니티 포럼(&amp;O)</translation>
     </message>

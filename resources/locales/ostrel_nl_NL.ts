@@ -54,6 +54,10 @@
         <translation>Filteren</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Wissen</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>Community&amp;forum</translation>
     </message>

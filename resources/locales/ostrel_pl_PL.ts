@@ -54,6 +54,10 @@
         <translation>Filtruj</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>&amp;Forum społeczności</translation>
     </message>

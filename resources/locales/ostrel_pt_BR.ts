@@ -54,6 +54,10 @@
         <translation>Filtrar</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Limpar</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>F&amp;órum da comunidade</translation>
     </message>

@@ -54,6 +54,10 @@
         <translation>Фильтр</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>&amp;Форум сообщества</translation>
     </message>

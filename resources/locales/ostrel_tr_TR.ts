@@ -54,6 +54,10 @@
         <translation>Filtrele</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>Temizle</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>&amp;Topluluk Forumu</translation>
     </message>

@@ -54,6 +54,10 @@
         <translation>筛选</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>社区论坛(&amp;O)</translation>
     </message>

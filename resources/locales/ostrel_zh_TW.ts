@@ -54,6 +54,10 @@
         <translation>篩選</translation>
     </message>
     <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
         <source>Community F&amp;orum</source>
         <translation>社群論壇(&amp;O)</translation>
     </message>
