@@ -34,7 +34,10 @@ CreateQuickContentFunction* quickContentMaker()
             auto* library = new Core::DyLib(candidate);
             if (auto* maker = library->resolve<CreateQuickContentFunction>(CreateQuickContentSymbol)) {
                 VLOG(1) << "Nag library " << candidate << " loaded in " << clock.elapsed() << " ms";
-                return maker; // The library stays loaded (see above).
+                // The library stays loaded (see above); held here, it is kept on purpose, not lost.
+                static Core::DyLib* const kept = library;
+                (void)kept;
+                return maker;
             }
             delete library;
         }
